@@ -1,0 +1,40 @@
+#pragma once
+// One file through open, log and test without a window: what the CLI runs, in the way a
+// batch step tests a file. The key in the log is the source's full path and its time stamp.
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "app/Prompt.h"
+#include "level/LevelDisplay.h"
+#include "level/LevelResult.h"
+
+struct Session;
+
+struct HeadlessOptions {
+  int testMode = -1;    // -1 properties only, 0 peak, 1 average
+  int showDb = 0;
+  bool useLog = true;
+};
+
+struct HeadlessReport {
+  QString file;
+  bool ok = false;
+  QString error;             // the messages the program showed, one per line
+  int kind = -1;
+  int channels = 0;
+  int sampleRate = 0;
+  int bits = 0;
+  unsigned durationMs = 0;
+  QStringList properties;    // the five property lines as shown
+  int testMode = -1;
+  int showDb = 0;
+  bool fromLog = false;
+  std::vector<ChannelLevelView> levels;
+  LevelResult result;
+};
+
+// The session must have a prompt that records (RecordingPrompt) or prints; the messages it
+// records for this file become `error` when the file fails.
+HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QString& path,
+                                const HeadlessOptions& options);

@@ -1,0 +1,40 @@
+#pragma once
+// The pump seam. Long work on the main thread (scanner, gain engine, batch run) calls
+// Session::PumpMessages by time or by chunk, never per sample; the GUI processes its
+// events there, the CLI and tests may cancel or pause on a schedule.
+#include <functional>
+
+class IPump {
+ public:
+  virtual ~IPump() = default;
+  // Let the front end run its pending events (timers, clicks, repaints).
+  virtual void ProcessEvents() = 0;
+  // Progress of the running single test, 0..100.
+  virtual void ProgressChanged(int /*percent*/) {}
+};
+
+// Does nothing; for the CLI.
+class NullPump : public IPump {
+ public:
+  void ProcessEvents() override {}
+};
+
+// Test double: runs a hook on every call with its running count (1, 2, ...), so a test
+// can set m_cancelRequested or m_pauseToggle at a chosen moment.
+class SchedulePump : public IPump {
+ public:
+  void ProcessEvents() override {
+    ++calls;
+    if (onPump) onPump(calls);
+  }
+  void ProgressChanged(int percent) override {
+    lastProgress = percent;
+    ++progressCalls;
+    if (onProgress) onProgress(percent);
+  }
+  int calls = 0;
+  int progressCalls = 0;
+  int lastProgress = -1;
+  std::function<void(int)> onPump;
+  std::function<void(int)> onProgress;
+};

@@ -1,0 +1,151 @@
+#pragma once
+// The session record: the state of the running program that the main window holds. The
+// readers, the test flow, the player logic and the batch steps take it by reference; the
+// window renders from it. Names follow the members of the main dialog.
+#include <QByteArray>
+#include <QString>
+#include <cstdint>
+
+#include "app/Prompt.h"
+#include "app/Pump.h"
+#include "level/LevelResult.h"
+
+// Kinds of source, also the batch kind.
+enum SourceKind : int {
+  kKindWav = 0,
+  kKindMp3 = 1,
+  kKindFlac = 2,
+  kKindOgg = 3,
+  kKindApe = 4,
+  kKindAac = 5,
+  kKindAlac = 6,
+};
+
+// Drive types as the window layer reports them: 3 fixed, 5 optical or read-only.
+constexpr int kDriveFixed = 3;
+constexpr int kDriveCdRom = 5;
+
+// Message numbers kept from the window protocol; here they are direct calls.
+constexpr unsigned kMsgGainPoll = 0x8006;
+constexpr unsigned kMsgGainStep = 0x8007;
+constexpr unsigned kMsgBatchProgress = 0x800d;
+constexpr unsigned kMsgBatchStart = 0x8026;
+
+// Timer ids of the main window.
+constexpr int kTimerEnable = 1;
+constexpr int kTimerProgressDown = 2;
+constexpr int kTimerPosition = 3;
+constexpr int kTimerFadeIn = 4;
+constexpr int kTimerFadeOut = 5;
+constexpr int kTimerBatchMp3 = 33;
+constexpr int kTimerBatchWav = 34;
+constexpr int kTimerBatchFlac = 37;
+constexpr int kTimerBatchOgg = 42;
+constexpr int kTimerBatchApe = 49;
+constexpr int kTimerBatchMp4 = 56;
+constexpr int kTimerPlayNew = 46;
+constexpr int kTimerCommandLine = 0x78;
+
+// Allocation granularity: window and view sizes of the scanner are multiples of it.
+constexpr uint32_t kAllocGranularity = 65536;
+
+struct Session {
+  Session();
+
+  // Reads the settings of the table (the constructor of the main dialog, step 7).
+  void LoadSettings();
+
+  // Lets the front end run, then reports a pending cancel exactly once: 0 after a
+  // cancel, 1 otherwise. While a measurement is paused no cancel is reported.
+  int PumpMessages();
+  // Sets m_progressPercent and tells the front end.
+  void SetProgress(int percent);
+
+  // Seams.
+  Prompter m_prompt;
+  IPump* m_pump = nullptr;
+
+  // --- Source and work file (SourceFormat) ---
+  int m_sourceKind = kKindWav;
+  int m_isMpeg = 0;
+  int m_isMp4Container = 0;
+  uint16_t m_formatTag = 0;
+  int m_channels = 2;
+  int m_bits = 16;
+  int m_sampleRate = 0;
+  uint32_t m_durationMs = 0;
+  int m_bitRate = 0;
+  int m_mpegMode = -1;
+  uint32_t m_fileSize = 0;
+  uint32_t m_fileSizeHigh = 0;
+  uint32_t m_dataSize = 0;
+  uint32_t m_dataOffset = 0;
+  QByteArray m_fmtBlock;  // the "fmt " chunk of a WAV source, as read
+  int m_driveType = kDriveFixed;
+  QString m_fileName;
+  QString m_fileNameShown;
+  QString m_fileNameCopy;
+  QString m_previousFileName;
+  int m_fileNotOpened = 0;
+  int m_opening = 0;
+  const uint8_t* m_mappedView = nullptr;
+  int m_windowedMapping = 0;
+  // Headless use: a reader fills SourceFormat and the lines and returns 1 without
+  // starting its worker (the caller may answer from the log, or read the source in place).
+  int m_noWorker = 0;
+  uint32_t m_allocGranularity = kAllocGranularity;
+
+  // --- What the window shows of the file ---
+  QString m_propertyLines[5];  // the five property lines
+  QString m_title;             // window title
+  QString m_statusText;
+  QString m_scaleLabel;        // "100% = 89 dB" and its siblings
+  int m_scaleLabelVisible = 0;
+
+  // --- Test ---
+  int m_testMode = 0;  // 0 peak, 1 average
+  int m_showDb = 0;
+  int m_testRunning = 0;
+  int m_cancelRequested = 0;
+  int m_exitRequested = 0;
+  int m_pauseToggle = 0;
+  int m_testPaused = 0;
+  float m_levelLeft = -1.0f;
+  float m_levelRight = -1.0f;
+  float m_noClippingLeft = 0, m_noClippingRight = 0;
+  float m_noClipDbLeft = 0, m_noClipDbRight = 0;
+  float m_maxLevelLeft = 0, m_maxLevelRight = 0;
+  float m_maxLevelDb = 0, m_maxLevelShown = 0;
+  int m_progressPercent = 0;
+  int m_progressShown = 0;
+  QString m_savedTitle;
+  int m_uiEnabledA = 1;
+  int m_uiEnabledB = 1;
+  int m_canPlay = 1;
+  int m_idleStatusShown = 1;
+  LevelResult m_result;
+
+  // --- Batch ---
+  int m_batchActive = 0;
+  int m_batchProgressSteps = 0;
+  double m_fileProgressShare = 0;
+  double m_progressRemainder = 0;
+
+  // --- Test log ---
+  int m_useDatabase = 1;
+  int m_logAvailable = 0;
+  int m_dataBaseSizeMb = 1;
+  QString m_logPath;
+
+  // --- Player and options ---
+  float m_savedVolume = -1.0f;
+  int m_savedVolumePos = -1;
+  int m_repeat = 0;
+  int m_shuffle = 0;
+  int m_alwaysOnTop = 0;
+  int m_looping = 1;
+  int m_beep = 0;
+  QString m_restoreTempName;
+  QString m_language;
+  QString m_patchFolder;
+};

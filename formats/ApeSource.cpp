@@ -1,0 +1,9 @@
+#include "formats/ApeSource.h"
+
+#include "app/Session.h"
+#include "app/Text.h"
+
+int OpenApe(Session& s) {
+  s.m_prompt.Message(TR("Sorry, but this kind of file cannot be opened yet."));
+  return 0;
+}

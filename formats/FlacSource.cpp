@@ -1,0 +1,9 @@
+#include "formats/FlacSource.h"
+
+#include "app/Session.h"
+#include "app/Text.h"
+
+int OpenFlac(Session& s) {
+  s.m_prompt.Message(TR("Sorry, but this kind of file cannot be opened yet."));
+  return 0;
+}

@@ -1,0 +1,296 @@
+#include "formats/WorkFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+#include <atomic>
+#include <memory>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+#include "app/FileErrors.h"
+#include "app/Globals.h"
+#include "app/Session.h"
+#include "app/Text.h"
+
+namespace {
+
+void PutLe32(char* p, uint32_t v) {
+  p[0] = char(v & 0xff);
+  p[1] = char((v >> 8) & 0xff);
+  p[2] = char((v >> 16) & 0xff);
+  p[3] = char((v >> 24) & 0xff);
+}
+void PutLe16(char* p, uint16_t v) {
+  p[0] = char(v & 0xff);
+  p[1] = char((v >> 8) & 0xff);
+}
+
+// Unescapes the octal escapes of /proc/self/mounts (a blank is "\040").
+QString UnescapeMount(const QByteArray& in) {
+  QByteArray out;
+  for (int i = 0; i < in.size(); ++i) {
+    if (in[i] == '\\' && i + 3 < in.size()) {
+      bool ok = false;
+      int v = in.mid(i + 1, 3).toInt(&ok, 8);
+      if (ok) {
+        out.append(char(v));
+        i += 3;
+        continue;
+      }
+    }
+    out.append(in[i]);
+  }
+  return QString::fromUtf8(out);
+}
+
+std::thread g_workerThread;
+std::atomic<int> g_workerExit{-1};
+
+}  // namespace
+
+QString WorkPathFor(const QString& source, int driveType) {
+  if (driveType == kDriveCdRom) return source;
+  int slash = source.lastIndexOf('/');
+  int dot = source.lastIndexOf('.');
+  if (dot > slash) return source.left(dot) + ".tmp";
+  return source + ".tmp";
+}
+
+int DriveTypeOf(const QString& path) {
+  QFile f("/proc/self/mounts");
+  if (!f.open(QIODevice::ReadOnly)) return kDriveFixed;
+  QString abs = QFileInfo(path).absoluteFilePath();
+  QString best;
+  bool bestOptical = false;
+  for (const QByteArray& line : f.readAll().split('\n')) {
+    QList<QByteArray> parts = line.split(' ');
+    if (parts.size() < 4) continue;
+    QString mountPoint = UnescapeMount(parts[1]);
+    bool under = abs == mountPoint || mountPoint == "/" ||
+                 abs.startsWith(mountPoint.endsWith('/') ? mountPoint : mountPoint + "/");
+    if (!under || mountPoint.size() < best.size()) continue;
+    const QByteArray& type = parts[2];
+    const QList<QByteArray> opts = parts[3].split(',');
+    best = mountPoint;
+    bestOptical = type == "iso9660" || type == "udf" || opts.contains("ro");
+  }
+  return bestOptical ? kDriveCdRom : kDriveFixed;
+}
+
+QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t formatTag, uint32_t dataBytes) {
+  QByteArray h(kWorkHeaderSize, '\0');
+  char* p = h.data();
+  const int bytesPerSample = (bits + 7) / 8;
+  std::memcpy(p, "RIFF", 4);
+  PutLe32(p + 4, dataBytes + 36);
+  std::memcpy(p + 8, "WAVE", 4);
+  std::memcpy(p + 12, "fmt ", 4);
+  PutLe32(p + 16, 16);
+  PutLe16(p + 20, formatTag);
+  PutLe16(p + 22, uint16_t(channels));
+  PutLe32(p + 24, uint32_t(sampleRate));
+  PutLe32(p + 28, uint32_t(sampleRate) * uint32_t(channels) * uint32_t(bytesPerSample));
+  PutLe16(p + 32, uint16_t(channels * bytesPerSample));
+  PutLe16(p + 34, uint16_t(bits));
+  std::memcpy(p + 36, "data", 4);
+  PutLe32(p + 40, dataBytes);
+  return h;
+}
+
+bool DeleteWorkFile(const QString& path) {
+  if (path.isEmpty()) return true;
+  QByteArray native = QFile::encodeName(path);
+  struct stat st;
+  if (::lstat(native.constData(), &st) != 0) return errno == ENOENT;
+  if (!(st.st_mode & S_IWUSR)) ::chmod(native.constData(), st.st_mode | S_IWUSR);
+  return ::unlink(native.constData()) == 0 || errno == ENOENT;
+}
+
+WorkFileWriter::~WorkFileWriter() { Close(); }
+
+bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, int bits,
+                            uint16_t formatTag, uint32_t dataBytes, const QString& sourcePath) {
+  Close();
+  m_path = path;
+  m_written = 0;
+  m_total = 0;
+  m_errno = 0;
+  // A decoder never writes to its source; on a read-only medium this is the refusal.
+  if (!sourcePath.isEmpty() && QFileInfo(path).absoluteFilePath() == QFileInfo(sourcePath).absoluteFilePath()) {
+    m_errno = EROFS;
+    return false;
+  }
+  QByteArray native = QFile::encodeName(path);
+  struct stat st;
+  if (::stat(native.constData(), &st) == 0 && !(st.st_mode & S_IWUSR))
+    ::chmod(native.constData(), st.st_mode | S_IWUSR);  // a read-only work file of an earlier run
+  m_fd = ::open(native.constData(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+  if (m_fd < 0) {
+    m_errno = errno;
+    return false;
+  }
+  QByteArray h = MakeWorkHeader(channels, sampleRate, bits, formatTag, dataBytes);
+  if (::write(m_fd, h.constData(), size_t(h.size())) != h.size()) {
+    m_errno = errno ? errno : ENOSPC;
+    Close();
+    return false;
+  }
+  return true;
+}
+
+bool WorkFileWriter::Write(const void* data, size_t bytes) {
+  if (m_fd < 0) return false;
+  const char* p = static_cast<const char*>(data);
+  size_t left = bytes;
+  while (left > 0) {
+    ssize_t n = ::write(m_fd, p, left);
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) {
+      m_errno = n < 0 ? errno : ENOSPC;
+      return false;
+    }
+    p += n;
+    left -= size_t(n);
+    m_written += uint64_t(n);
+  }
+  m_total += float(bytes);
+  return true;
+}
+
+bool WorkFileWriter::WriteAt(uint64_t offset, uint32_t value) {
+  char b[4];
+  PutLe32(b, value);
+  if (::lseek(m_fd, off_t(offset), SEEK_SET) < 0) {
+    m_errno = errno;
+    m_lastStep = 1;
+    return false;
+  }
+  if (::write(m_fd, b, 4) != 4) {
+    m_errno = errno ? errno : ENOSPC;
+    m_lastStep = 2;
+    return false;
+  }
+  return true;
+}
+
+bool WorkFileWriter::PatchSizes(float total) {
+  if (m_fd < 0) return false;
+  m_lastStep = 0;
+  double riff = double(total) + kWorkHeaderSize - 8;
+  uint32_t riffSize = riff > 4294967040.0 ? kMaxWorkDataSize : uint32_t(riff);
+  uint32_t dataSize = double(total) > double(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(total);
+  return WriteAt(4, riffSize) && WriteAt(40, dataSize);
+}
+
+bool WorkFileWriter::PatchSizesIfDifferent(uint32_t dataBytes) {
+  if (m_fd < 0) return false;
+  m_lastStep = 0;
+  auto readAt = [&](off_t off) -> uint32_t {
+    uint8_t b[4];
+    if (::pread(m_fd, b, 4, off) != 4) return ~0u;
+    return uint32_t(b[0]) | uint32_t(b[1]) << 8 | uint32_t(b[2]) << 16 | uint32_t(b[3]) << 24;
+  };
+  if (readAt(4) != dataBytes + 36 && !WriteAt(4, dataBytes + 36)) return false;
+  if (readAt(40) != dataBytes && !WriteAt(40, dataBytes)) return false;
+  return true;
+}
+
+void WorkFileWriter::Close() {
+  if (m_fd >= 0) ::close(m_fd);
+  m_fd = -1;
+}
+
+QString WorkSeekFailedText(const QString& workPath) {
+  return TR("Sorry, but for file ") + workPath +
+         TR(" move pointer of current position of the file impossible. ") +
+         TR("Therefore the saving operation will be stopped.");
+}
+
+QString WorkWriteFailedText(const QString& workPath) {
+  return TR("Sorry, but an error of write has occurred to the output file: ") + workPath + ".";
+}
+
+void JoinWorker() {
+  if (g_workerThread.joinable()) g_workerThread.join();
+}
+
+void StartWorker(std::function<int()> body) {
+  JoinWorker();
+  g_workerExit = -1;
+  g_workerBusy.store(1);
+  // Linux gives real-time priority only to privileged processes; the worker runs at the
+  // normal priority and the window stays responsive through the pump.
+  g_workerThread = std::thread([body = std::move(body)]() {
+    int code = 1;
+    try {
+      code = body();
+    } catch (...) {
+      code = 1;
+    }
+    g_workerExit = code;
+    g_workerBusy.store(0);
+  });
+}
+
+void WaitForWorker(Session& s) {
+  while (g_workerBusy.load()) {
+    s.PumpMessages();
+    QThread::msleep(10);
+  }
+  JoinWorker();
+}
+
+int WorkerExitCode() { return g_workerExit.load(); }
+
+int CopyWorkerBody(Session& s) {
+  const QString source = g_sourcePath;
+  const QString work = g_workPath;
+  QByteArray src = QFile::encodeName(source);
+  QByteArray dst = QFile::encodeName(work);
+  int err = 0;
+  int in = ::open(src.constData(), O_RDONLY | O_CLOEXEC);
+  if (in < 0) err = errno;
+  int out = -1;
+  if (!err) {
+    struct stat st;
+    if (::stat(dst.constData(), &st) == 0 && !(st.st_mode & S_IWUSR))
+      ::chmod(dst.constData(), st.st_mode | S_IWUSR);
+    out = ::open(dst.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (out < 0) err = errno;
+  }
+  if (!err) {
+    static constexpr size_t kChunk = 1 << 20;
+    std::unique_ptr<char[]> buf(new char[kChunk]);
+    for (;;) {
+      ssize_t n = ::read(in, buf.get(), kChunk);
+      if (n < 0 && errno == EINTR) continue;
+      if (n < 0) { err = errno; break; }
+      if (n == 0) break;
+      ssize_t off = 0;
+      while (off < n) {
+        ssize_t w = ::write(out, buf.get() + off, size_t(n - off));
+        if (w < 0 && errno == EINTR) continue;
+        if (w <= 0) { err = w < 0 ? errno : ENOSPC; break; }
+        off += w;
+      }
+      if (err) break;
+    }
+  }
+  if (in >= 0) ::close(in);
+  if (out >= 0 && ::close(out) != 0 && !err) err = errno;
+  if (!err) return 0;
+  int code = ErrorCodeFromErrno(err, err == ENOSPC ? source : work);
+  QString path = code == kErrDiskFull ? source : work;
+  s.m_prompt.Message(TR(" Sorry, but the program can not continue operation with the file: ") + path +
+                         ". " + SystemErrorText(code),
+                     PromptIcon::Error);
+  g_workPath.clear();
+  g_copyFinished = 1;
+  g_copyFailed = 1;
+  return code < 0 ? -code : code;
+}

@@ -1,0 +1,95 @@
+#pragma once
+// Work files: the PCM WAV (or byte copy) beside the source that the test and the player
+// read, the 44-byte header every decoder writes, and the one worker thread at a time.
+#include <QByteArray>
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+
+struct Session;
+
+constexpr int kWorkHeaderSize = 44;
+constexpr uint32_t kMaxWorkDataSize = 0xFFFFFF00u;
+
+// The source's full path with its suffix replaced by ".tmp" (cut at the last "." of the
+// name, or ".tmp" added). On an optical or read-only mount the source itself.
+QString WorkPathFor(const QString& source, int driveType);
+
+// 5 for a path on an iso9660 or udf mount, or on a mount that is read-only; else 3.
+int DriveTypeOf(const QString& path);
+
+// The 44-byte header: RIFF size = dataBytes + 36, format tag 1 (or 3 for float output).
+QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t formatTag, uint32_t dataBytes);
+
+// Clears the owner's write bit problem first (a read-only file), then deletes. True when
+// the file is gone afterwards.
+bool DeleteWorkFile(const QString& path);
+
+// Where decoders put interleaved little-endian PCM.
+class PcmSink {
+ public:
+  virtual ~PcmSink() = default;
+  // False on a short or failed write (a full disk); the decoder then stops.
+  virtual bool Write(const void* data, size_t bytes) = 0;
+};
+
+// A PCM work file: creates the file (never the source: the path must differ from
+// g_sourcePath), writes the header, takes the samples, and patches the two size fields
+// at the end from the single-precision running total, as decoders of unknown length do.
+class WorkFileWriter : public PcmSink {
+ public:
+  WorkFileWriter() = default;
+  ~WorkFileWriter() override;
+  WorkFileWriter(const WorkFileWriter&) = delete;
+  WorkFileWriter& operator=(const WorkFileWriter&) = delete;
+
+  // Creates (or truncates) `path` and writes the header. On failure returns false and
+  // leaves the errno value in LastErrno(). Refuses the source path itself.
+  bool Create(const QString& path, int channels, int sampleRate, int bits, uint16_t formatTag,
+              uint32_t dataBytes, const QString& sourcePath = {});
+  bool Write(const void* data, size_t bytes) override;
+  // Sizes from `total` as a float: riffSize = total + 36, clamped to 0xFFFFFF00.
+  // Returns false on a failed seek or write (LastStep tells which: 1 seek, 2 write).
+  bool PatchSizes(float total);
+  // Rewrites each size field only if it differs (readers that knew the size in advance).
+  bool PatchSizesIfDifferent(uint32_t dataBytes);
+  void Close();
+
+  bool IsOpen() const { return m_fd >= 0; }
+  uint64_t BytesWritten() const { return m_written; }
+  float Total() const { return m_total; }
+  int LastErrno() const { return m_errno; }
+  int LastStep() const { return m_lastStep; }
+  const QString& Path() const { return m_path; }
+
+ private:
+  bool WriteAt(uint64_t offset, uint32_t value);
+  int m_fd = -1;
+  QString m_path;
+  uint64_t m_written = 0;
+  float m_total = 0;  // the running total as the decoders keep it: single precision
+  int m_errno = 0;
+  int m_lastStep = 0;
+};
+
+// The end-of-decoding messages of a work file.
+QString WorkSeekFailedText(const QString& workPath);
+QString WorkWriteFailedText(const QString& workPath);
+
+// Starts the one worker: any finished earlier worker is joined, g_workerBusy is set to 1
+// before the thread starts, and cleared on every way out of `body`. `body` returns the
+// thread's exit code (0 on success).
+void StartWorker(std::function<int()> body);
+// Waits for the current worker while pumping the session (at 10 ms steps).
+void WaitForWorker(Session& s);
+// Joins a finished worker (program end, tests).
+void JoinWorker();
+// Exit code of the last finished worker; -1 while it runs or if none ran.
+int WorkerExitCode();
+
+// The copy worker of WAV and MP3: copies g_sourcePath to g_workPath. On failure shows
+// " Sorry, but the program can not continue operation with the file: " + path + ". " +
+// the system's text, clears g_workPath and sets g_copyFinished and g_copyFailed.
+// Returns the exit code (0 or the error number).
+int CopyWorkerBody(Session& s);

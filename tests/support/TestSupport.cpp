@@ -1,0 +1,54 @@
+#include "support/TestSupport.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <cstdlib>
+
+#include "app/Globals.h"
+#include "formats/WorkFile.h"
+
+namespace testing_support {
+
+QString Fixture(const QString& name) { return QStringLiteral(TONVANE_FIXTURES) + "/" + name; }
+QString ApeData(const QString& name) { return QStringLiteral(TONVANE_APE_DATA) + "/" + name; }
+QString CliPath() { return QStringLiteral(TONVANE_CLI); }
+
+TestSession::TestSession() {
+  qputenv("XDG_CONFIG_HOME", dir.path().toUtf8() + "/config");
+  qputenv("XDG_DATA_HOME", dir.path().toUtf8() + "/data");
+  s = std::make_unique<Session>();
+  s->m_prompt.SetUi(&prompt);
+  s->m_pump = &pump;
+  s->m_logPath = dir.filePath("TestLog.csv");
+}
+
+TestSession::~TestSession() {
+  JoinWorker();
+  g_workerBusy = 0;
+  g_copyFailed = 0;
+  g_copyFinished = 0;
+  ClearSessionPaths();
+}
+
+bool WriteFile(const QString& path, const QByteArray& bytes) {
+  QFile f(path);
+  if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+  return f.write(bytes) == bytes.size();
+}
+
+QByteArray ReadFile(const QString& path) {
+  QFile f(path);
+  if (!f.open(QIODevice::ReadOnly)) return {};
+  return f.readAll();
+}
+
+int RunShell(const QString& command, QByteArray* out) {
+  QProcess p;
+  p.start("/bin/sh", {"-c", command});
+  p.waitForFinished(-1);
+  if (out) *out = p.readAllStandardOutput();
+  return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+}  // namespace testing_support
