@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -293,4 +294,65 @@ int CopyWorkerBody(Session& s) {
   g_copyFinished = 1;
   g_copyFailed = 1;
   return code < 0 ? -code : code;
+}
+
+bool FindDataChunk(const uint8_t* view, uint64_t viewSize, uint64_t limit, uint32_t& dataOffset,
+                   uint32_t& dataSize) {
+  if (limit > viewSize) limit = viewSize;
+  for (uint64_t i = 15; i + 4 < limit && i + 9 <= viewSize; ++i) {
+    if (std::memcmp(view + i + 1, "data", 4) == 0) {
+      dataSize = uint32_t(view[i + 5]) | uint32_t(view[i + 6]) << 8 | uint32_t(view[i + 7]) << 16 |
+                 uint32_t(view[i + 8]) << 24;
+      dataOffset = uint32_t(i + 9);
+      return true;
+    }
+  }
+  return false;
+}
+
+MappedFile::~MappedFile() { Close(); }
+
+bool MappedFile::Open(const QString& path) {
+  Close();
+  m_fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (m_fd < 0) {
+    m_errno = errno;
+    return false;
+  }
+  struct stat st;
+  if (::fstat(m_fd, &st) != 0) {
+    m_errno = errno;
+    Close();
+    return false;
+  }
+  m_size = uint64_t(st.st_size);
+  return true;
+}
+
+const uint8_t* MappedFile::Map(uint64_t offset, uint64_t length) {
+  Unmap();
+  if (m_fd < 0 || offset >= m_size) return nullptr;
+  if (length > m_size - offset) length = m_size - offset;
+  void* p = ::mmap(nullptr, size_t(length), PROT_READ, MAP_SHARED, m_fd, off_t(offset));
+  if (p == MAP_FAILED) {
+    m_errno = errno;
+    return nullptr;
+  }
+  ::madvise(p, size_t(length), MADV_SEQUENTIAL);
+  m_view = static_cast<const uint8_t*>(p);
+  m_viewSize = length;
+  return m_view;
+}
+
+void MappedFile::Unmap() {
+  if (m_view) ::munmap(const_cast<uint8_t*>(m_view), size_t(m_viewSize));
+  m_view = nullptr;
+  m_viewSize = 0;
+}
+
+void MappedFile::Close() {
+  Unmap();
+  if (m_fd >= 0) ::close(m_fd);
+  m_fd = -1;
+  m_size = 0;
 }

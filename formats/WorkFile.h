@@ -93,3 +93,39 @@ int WorkerExitCode();
 // the system's text, clears g_workPath and sets g_copyFinished and g_copyFailed.
 // Returns the exit code (0 or the error number).
 int CopyWorkerBody(Session& s);
+
+// Finds the data chunk of a work file in its first bytes, as the test does when the reader
+// left m_dataSize at 0: from i = 15 on, "data" at i + 1 gives the size at i + 5 and the
+// offset i + 9. `limit` is the RIFF size at byte 4 (or the view's size when windowed), at
+// most the file size. False when nothing is found.
+bool FindDataChunk(const uint8_t* view, uint64_t viewSize, uint64_t limit, uint32_t& dataOffset,
+                   uint32_t& dataSize);
+
+// A read-only memory map of a file, or of a window of it.
+class MappedFile {
+ public:
+  MappedFile() = default;
+  ~MappedFile();
+  MappedFile(const MappedFile&) = delete;
+  MappedFile& operator=(const MappedFile&) = delete;
+
+  // Opens the file for reading; false with LastErrno() on failure.
+  bool Open(const QString& path);
+  // Maps [offset, offset + length) (offset a multiple of the page size); length is cut to
+  // the file's end. Any earlier view is unmapped. Null on failure.
+  const uint8_t* Map(uint64_t offset, uint64_t length);
+  void Unmap();
+  void Close();
+
+  uint64_t Size() const { return m_size; }
+  const uint8_t* View() const { return m_view; }
+  uint64_t ViewSize() const { return m_viewSize; }
+  int LastErrno() const { return m_errno; }
+
+ private:
+  int m_fd = -1;
+  uint64_t m_size = 0;
+  const uint8_t* m_view = nullptr;
+  uint64_t m_viewSize = 0;
+  int m_errno = 0;
+};
