@@ -11,3 +11,4 @@ void ClearSessionPaths() {
   g_workPath.clear();
   g_sourcePath.clear();
 }
+std::atomic<unsigned long long> g_sampleBytesRead{0};

@@ -14,3 +14,8 @@ extern int g_workFile;                   // file descriptor of the session, -1 w
 
 // Free the two paths (a reader's failure, a close).
 void ClearSessionPaths();
+
+// Instrumentation: bytes of sample data read or decoded by any measurement or decoder in
+// this process (scanner, gain engine, work file writers). Lets a test prove that an
+// answer from the test log read no samples.
+extern std::atomic<unsigned long long> g_sampleBytesRead;

@@ -83,6 +83,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   r.showDb = options.showDb;
   prompt.clear();
   ResetFile(s);
+  const unsigned long long bytesBefore = g_sampleBytesRead.load();
   s.m_showDb = options.showDb;
   s.m_useDatabase = options.useLog ? 1 : 0;
   const QString full = QFileInfo(path).absoluteFilePath();
@@ -160,6 +161,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   }
   if (logOpen) log.CloseLog();
 
+  r.sampleBytesRead = g_sampleBytesRead.load() - bytesBefore;
   r.levels = ChannelLevels(s);
   r.result = s.m_result;
   r.ok = true;

@@ -30,6 +30,7 @@ struct HeadlessReport {
   int testMode = -1;
   int showDb = 0;
   bool fromLog = false;
+  unsigned long long sampleBytesRead = 0;  // sample bytes read or decoded for this file
   std::vector<ChannelLevelView> levels;
   LevelResult result;
 };

@@ -50,6 +50,7 @@ QJsonObject ToJson(const HeadlessReport& r) {
   o["test"] = r.testMode == 0 ? QJsonValue("peak") : r.testMode == 1 ? QJsonValue("average") : QJsonValue();
   o["scale"] = r.testMode < 0 ? QJsonValue() : QJsonValue(r.showDb ? "dB" : "percent");
   o["fromLog"] = r.fromLog;
+  o["sampleBytesRead"] = double(r.sampleBytesRead);
   QJsonArray levels;
   if (r.ok && r.testMode >= 0) {
     for (const ChannelLevelView& c : r.levels) {

@@ -160,6 +160,7 @@ bool WorkFileWriter::Write(const void* data, size_t bytes) {
     m_written += uint64_t(n);
   }
   m_total += float(bytes);
+  g_sampleBytesRead += bytes;
   return true;
 }
 
