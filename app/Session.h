@@ -96,6 +96,8 @@ struct Session {
   // Headless use: a reader fills SourceFormat and the lines and returns 1 without
   // starting its worker (the caller may answer from the log, or read the source in place).
   int m_noWorker = 0;
+  // Who runs a decoder: -1 the main window's open, 1 the batch run (its own output file).
+  int m_decodeContext = -1;
   uint32_t m_allocGranularity = kAllocGranularity;
 
   // --- What the window shows of the file ---
