@@ -36,12 +36,16 @@ cp fo_src_16_1.wav flac_notflac.flac
 # Ogg Vorbis: fixed serial numbers keep the files the same from run to run.
 oggenc -Q -s 101 -q 3 -o ogg_2.ogg fo_src_16_2.wav
 oggenc -Q -s 102 -q 2 -o ogg_1.ogg fo_src_16_1.wav
-oggenc -Q -s 103 -q 2 -o ogg_3.ogg fo_src_16_3.wav
+oggenc -Q -s 103 -q 2 -o ogg_3.ogg fo_src_16_3.wav 2>/dev/null
 cat ogg_2.ogg ogg_1.ogg > ogg_chained.ogg
 for f in ogg_2 ogg_1 ogg_3; do oggdec -Q -R -o "$f.ref.raw" "$f.ogg"; done
-# A hole: a stretch of pages taken out of the middle.
-size=$(stat -c %s ogg_2.ogg)
-{ head -c $((size / 3)) ogg_2.ogg; tail -c +$((size / 3 + size / 4)) ogg_2.ogg; } > ogg_hole.ogg
+# A hole: a stretch of pages taken out of the middle of a longer stream.
+sox -R -n -b 16 -c 2 -r 44100 fo_src_long.wav synth 3 pinknoise vol 0.4
+oggenc -Q -s 104 -q 3 -o ogg_long.ogg fo_src_long.wav
+oggdec -Q -R -o ogg_long.ref.raw ogg_long.ogg
+size=$(stat -c %s ogg_long.ogg)
+{ head -c $((size / 2)) ogg_long.ogg; tail -c +$((size / 2 + size / 6)) ogg_long.ogg; } > ogg_hole.ogg
+rm -f ogg_long.ogg
 
 # WAV files for the conversion road, made and decoded by ffmpeg.
 ffx() { ff -i "$1" -fflags +bitexact -flags +bitexact -map_metadata -1 "${@:2}"; }
