@@ -108,6 +108,7 @@ bool DeleteWorkFile(const QString& path) {
   QByteArray native = QFile::encodeName(path);
   struct stat st;
   if (::lstat(native.constData(), &st) != 0) return errno == ENOENT;
+  if (!S_ISREG(st.st_mode)) return false;  // a work file is a plain file; never a device or link
   if (!(st.st_mode & S_IWUSR)) ::chmod(native.constData(), st.st_mode | S_IWUSR);
   return ::unlink(native.constData()) == 0 || errno == ENOENT;
 }
