@@ -29,6 +29,9 @@ constexpr int kDriveCdRom = 5;
 constexpr unsigned kMsgGainPoll = 0x8006;
 constexpr unsigned kMsgGainStep = 0x8007;
 constexpr unsigned kMsgBatchProgress = 0x800d;
+constexpr unsigned kMsgBatchTakePosition = 0x801d;
+constexpr unsigned kMsgBatchPaused = 0x8049;
+constexpr unsigned kMsgBatchResumed = 0x804a;
 constexpr unsigned kMsgBatchStart = 0x8026;
 
 // Timer ids of the main window.
@@ -93,6 +96,8 @@ struct Session {
   // Headless use: a reader fills SourceFormat and the lines and returns 1 without
   // starting its worker (the caller may answer from the log, or read the source in place).
   int m_noWorker = 0;
+  // Who runs a decoder: -1 the main window's open, 1 the batch run (its own output file).
+  int m_decodeContext = -1;
   uint32_t m_allocGranularity = kAllocGranularity;
 
   // --- What the window shows of the file ---
@@ -128,6 +133,7 @@ struct Session {
   // --- Batch ---
   int m_batchActive = 0;
   int m_batchProgressSteps = 0;
+  IBatchProgress* m_hBatchProgress = nullptr;  // the batch progress dialog while a run lasts
   double m_fileProgressShare = 0;
   double m_progressRemainder = 0;
 
