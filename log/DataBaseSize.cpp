@@ -13,12 +13,12 @@ QString DataBaseSizeText(int64_t n) {
   int unit = 0;
   if (x > 1.0) {
     // Each step divides once more; the last value above 1 is the one shown.
-    do {
-      ++unit;
+    for (;;) {
+      if (++unit == 3) break;  // nothing beyond GB
       d /= 1024.0;
       if (d <= 1.0) break;
       x = d;
-    } while (unit < 3);
+    }
   }
   if (unit == 0) return QString::asprintf("%4d", int(n)).trimmed() + TR(" bytes");
   const QString number =
