@@ -90,6 +90,7 @@ struct Session {
   QString m_fileNameCopy;
   QString m_previousFileName;
   int m_fileNotOpened = 0;
+  int m_navigating = 0;  // the player's next or previous step opens the file
   int m_opening = 0;
   const uint8_t* m_mappedView = nullptr;
   int m_windowedMapping = 0;
@@ -142,6 +143,7 @@ struct Session {
   int m_logAvailable = 0;
   int m_dataBaseSizeMb = 1;
   QString m_logPath;
+  int m_logRowState = 0;  // what FindRow said of the open file's row (a RowState)
 
   // --- Player and options ---
   float m_savedVolume = -1.0f;
