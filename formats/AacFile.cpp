@@ -72,15 +72,15 @@ bool IsAdtsSync(const uint8_t* d, uint64_t size, uint64_t p) {
 }
 
 // Writers of ISO files put the template value 2 in the sample entry's channel field
-// whatever the stream holds; the channel configuration of the decoder-specific info
-// tells the truth, so a multichannel stream is recognised as one.
+// whatever the stream holds; a channel configuration of more than two channels in the
+// decoder-specific info overrides it, so a multichannel stream is recognised as one.
 void TakeConfigChannels(const View& v, uint64_t dsi, Mp4AtomWalk& w) {
   const uint32_t objectType = v.U8(dsi) >> 3;
   const uint32_t rateIndex = (v.U8(dsi) & 7) << 1 | v.U8(dsi + 1) >> 7;
   if (objectType == 31 || rateIndex == 15) return;
   static const int kChannels[8] = {0, 1, 2, 3, 4, 5, 6, 8};
   const uint32_t config = (v.U8(dsi + 1) >> 3) & 15;
-  if (config >= 1 && config <= 7) w.channels = kChannels[config];
+  if (config >= 3 && config <= 7) w.channels = kChannels[config];
 }
 
 void ReadSampleDescription(const View& v, uint64_t stsd, Mp4AtomWalk& w) {
