@@ -29,6 +29,9 @@ constexpr int kDriveCdRom = 5;
 constexpr unsigned kMsgGainPoll = 0x8006;
 constexpr unsigned kMsgGainStep = 0x8007;
 constexpr unsigned kMsgBatchProgress = 0x800d;
+constexpr unsigned kMsgBatchTakePosition = 0x801d;
+constexpr unsigned kMsgBatchPaused = 0x8049;
+constexpr unsigned kMsgBatchResumed = 0x804a;
 constexpr unsigned kMsgBatchStart = 0x8026;
 
 // Timer ids of the main window.
@@ -87,12 +90,15 @@ struct Session {
   QString m_fileNameCopy;
   QString m_previousFileName;
   int m_fileNotOpened = 0;
+  int m_navigating = 0;  // the player's next or previous step opens the file
   int m_opening = 0;
   const uint8_t* m_mappedView = nullptr;
   int m_windowedMapping = 0;
   // Headless use: a reader fills SourceFormat and the lines and returns 1 without
   // starting its worker (the caller may answer from the log, or read the source in place).
   int m_noWorker = 0;
+  // Who runs a decoder: -1 the main window's open, 1 the batch run (its own output file).
+  int m_decodeContext = -1;
   uint32_t m_allocGranularity = kAllocGranularity;
 
   // --- What the window shows of the file ---
@@ -128,6 +134,7 @@ struct Session {
   // --- Batch ---
   int m_batchActive = 0;
   int m_batchProgressSteps = 0;
+  IBatchProgress* m_hBatchProgress = nullptr;  // the batch progress dialog while a run lasts
   double m_fileProgressShare = 0;
   double m_progressRemainder = 0;
 

@@ -108,6 +108,7 @@ bool DeleteWorkFile(const QString& path) {
   QByteArray native = QFile::encodeName(path);
   struct stat st;
   if (::lstat(native.constData(), &st) != 0) return errno == ENOENT;
+  if (!S_ISREG(st.st_mode)) return false;  // a work file is a plain file; never a device or link
   if (!(st.st_mode & S_IWUSR)) ::chmod(native.constData(), st.st_mode | S_IWUSR);
   return ::unlink(native.constData()) == 0 || errno == ENOENT;
 }
@@ -116,6 +117,10 @@ WorkFileWriter::~WorkFileWriter() { Close(); }
 
 bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, int bits,
                             uint16_t formatTag, uint32_t dataBytes, const QString& sourcePath) {
+  return Open(path, sourcePath) && WriteHeader(channels, sampleRate, bits, formatTag, dataBytes);
+}
+
+bool WorkFileWriter::Open(const QString& path, const QString& sourcePath) {
   Close();
   m_path = path;
   m_written = 0;
@@ -135,7 +140,14 @@ bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, i
     m_errno = errno;
     return false;
   }
+  return true;
+}
+
+bool WorkFileWriter::WriteHeader(int channels, int sampleRate, int bits, uint16_t formatTag,
+                                 uint32_t dataBytes) {
+  if (m_fd < 0) return false;
   QByteArray h = MakeWorkHeader(channels, sampleRate, bits, formatTag, dataBytes);
+  errno = 0;
   if (::write(m_fd, h.constData(), size_t(h.size())) != h.size()) {
     m_errno = errno ? errno : ENOSPC;
     Close();
