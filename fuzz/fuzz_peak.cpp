@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <QByteArray>
-#include <QDir>
 #include <QFile>
 #include <cstdint>
 #include <cstdlib>
@@ -18,15 +17,16 @@
 
 namespace {
 
+char g_tempName[] = "/tmp/fuzz_peak_XXXXXX";
+
 QString TempPath() {
-  static QString path = [] {
-    char name[] = "/tmp/fuzz_peak_XXXXXX";
-    const int fd = ::mkstemp(name);
+  static const bool made = [] {
+    const int fd = ::mkstemp(g_tempName);
     if (fd >= 0) ::close(fd);
-    std::atexit([] { std::remove(TempPath().toLocal8Bit().constData()); });
-    return QString::fromLocal8Bit(name);
+    std::atexit([] { std::remove(g_tempName); });
+    return fd >= 0;
   }();
-  return path;
+  return made ? QString::fromLocal8Bit(g_tempName) : QString();
 }
 
 }  // namespace
@@ -34,6 +34,7 @@ QString TempPath() {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size < 8 || size > (1u << 22)) return 0;
   const QString path = TempPath();
+  if (path.isEmpty()) return 0;
   {
     QFile f(path);
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return 0;
