@@ -13,6 +13,15 @@ class IPump {
   virtual void ProgressChanged(int /*percent*/) {}
 };
 
+// The batch progress dialog as the measurements reach it: the messages of a batch run by
+// their numbers (0x800d, 0x801d, 0x8049, ...), w the first parameter. The dialog answers
+// 0x801d by copying its bar position into the session's m_batchProgressSteps.
+class IBatchProgress {
+ public:
+  virtual ~IBatchProgress() = default;
+  virtual void Send(unsigned message, int w = 0) = 0;
+};
+
 // Does nothing; for the CLI.
 class NullPump : public IPump {
  public:

@@ -30,6 +30,9 @@ constexpr int kDriveCdRom = 5;
 constexpr unsigned kMsgGainPoll = 0x8006;
 constexpr unsigned kMsgGainStep = 0x8007;
 constexpr unsigned kMsgBatchProgress = 0x800d;
+constexpr unsigned kMsgBatchTakePosition = 0x801d;
+constexpr unsigned kMsgBatchPaused = 0x8049;
+constexpr unsigned kMsgBatchResumed = 0x804a;
 constexpr unsigned kMsgBatchStart = 0x8026;
 
 // Timer ids of the main window.
@@ -136,6 +139,7 @@ struct Session {
   // --- Batch ---
   int m_batchActive = 0;
   int m_batchProgressSteps = 0;
+  IBatchProgress* m_hBatchProgress = nullptr;  // the batch progress dialog while a run lasts
   double m_fileProgressShare = 0;
   double m_progressRemainder = 0;
 

@@ -39,8 +39,9 @@ bool Settings::Has(const QString& name, const QString& section) {
 }
 
 const QStringList& Settings::KnownLanguages() {
-  static const QStringList codes = {"en", "ru", "de", "fr", "es", "it", "nl", "pt", "pl",
-                                    "cs", "uk", "hu", "sv", "fi", "tr", "ja", "zh"};
+  // The seventeen interface languages, in the order of their menu.
+  static const QStringList codes = {"ru", "en", "de", "es", "fr", "it", "nl", "pt", "no",
+                                    "da", "tr", "pl", "cr", "cn", "ko", "cs", "sl"};
   return codes;
 }
 

@@ -1,10 +1,50 @@
+// tonvane: the window.
 #include <QApplication>
-#include <QMainWindow>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTranslator>
+#include <clocale>
+#include <cstdio>
+
+#include "app/SingleInstance.h"
+#include "app/Settings.h"
+#include "app/Text.h"
+#include "app/widgets/MainDialog.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  QMainWindow w;
-  w.setWindowTitle("Tonvane 1.0");
-  w.show();
+  QCoreApplication::setOrganizationName(Settings::Organization());
+  QCoreApplication::setApplicationName(QStringLiteral("Tonvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
+  // Numbers in files are written and read in the C locale whatever the interface language.
+  std::setlocale(LC_NUMERIC, "C");
+
+  SingleInstance instance;
+  if (!instance.Acquire()) {
+    const QString text = SingleInstance::AlreadyRunningText();
+    std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+    QMessageBox::critical(nullptr, tonvane::kAppTitle, text);
+    return 1;
+  }
+
+  // The interface language takes effect at start: one .qm per language code beside the
+  // program or in its translations folder; a missing one leaves the program in English.
+  QTranslator translator;
+  const QString code = Settings::Language();
+  if (!code.isEmpty()) {
+    const QString dir = QCoreApplication::applicationDirPath();
+    if (translator.load("tonvane_" + code, dir) || translator.load("tonvane_" + code, dir + "/translations"))
+      app.installTranslator(&translator);
+  }
+
+  QString file;
+  const QStringList args = app.arguments();
+  if (args.size() > 1) file = QFileInfo(args.at(1)).absoluteFilePath();
+
+  CBrenlowv10Dlg dlg(file);
+  dlg.resize(760, 600);
+  dlg.show();
   return app.exec();
 }

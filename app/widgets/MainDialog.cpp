@@ -1,0 +1,498 @@
+#include "app/widgets/MainDialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTimerEvent>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "app/Globals.h"
+#include "app/Settings.h"
+#include "app/Text.h"
+#include "formats/WorkFile.h"
+
+namespace {
+
+// The fixed captions of the property panel, which each reader overwrites with its own lines.
+const char* const kPropertyCaptions[5] = {" Bits on Readout", " Channels", " Frequency", " Audio Format",
+                                          " Size"};
+
+QLabel* MakeLabel(const QString& text, QWidget* parent, const QString& name = {}) {
+  auto* l = new QLabel(text, parent);
+  if (!name.isEmpty()) l->setObjectName(name);
+  return l;
+}
+
+QProgressBar* MakeLevelBar(QWidget* parent, const QString& name) {
+  auto* bar = new QProgressBar(parent);
+  bar->setObjectName(name);
+  bar->setOrientation(Qt::Vertical);
+  bar->setRange(0, 100);
+  bar->setValue(0);
+  bar->setTextVisible(false);
+  bar->setMinimumSize(34, 150);
+  return bar;
+}
+
+}  // namespace
+
+CBrenlowv10Dlg::CBrenlowv10Dlg(const QString& commandLineFile, QWidget* parent)
+    : QMainWindow(parent), m_promptUi(this), m_commandLineFile(commandLineFile) {
+  m_s.m_prompt.SetUi(&m_promptUi);
+  m_s.m_pump = &m_pumpUi;
+  m_s.LoadSettings();
+
+  setWindowTitle(tonvane::kAppTitle);
+  setObjectName("CBrenlowv10Dlg");
+  BuildMenus();
+  BuildToolBar();
+  BuildCentral();
+  BuildStatusBar();
+  m_pumpUi.onProgress = [this](int percent) {
+    if (m_statusProgress) m_statusProgress->setValue(percent);
+  };
+  RenderFromSession();
+  m_timer1 = startTimer(100);  // timer 1: the enabling rules, for the whole life of the window
+}
+
+CBrenlowv10Dlg::~CBrenlowv10Dlg() = default;
+
+QAction* CBrenlowv10Dlg::AddCommand(QMenu* menu, int id, const QString& text, const QKeySequence& key) {
+  QAction* a = menu->addAction(text);
+  a->setData(id);
+  a->setObjectName(QStringLiteral("cmd%1").arg(id));
+  if (!key.isEmpty()) {
+    a->setShortcut(key);
+    a->setShortcutContext(Qt::WindowShortcut);
+  }
+  m_actions[id] = a;
+  return a;
+}
+
+QAction* CBrenlowv10Dlg::action(int id) const {
+  auto it = m_actions.find(id);
+  return it == m_actions.end() ? nullptr : it->second;
+}
+
+QWidget* CBrenlowv10Dlg::control(int id) const {
+  auto it = m_controls.find(id);
+  return it == m_controls.end() ? nullptr : it->second;
+}
+
+void CBrenlowv10Dlg::BuildMenus() {
+  QMenuBar* mb = menuBar();
+  QMenu* file = mb->addMenu(TR("&File"));
+  AddCommand(file, kCmdOpen, TR("&Open..."), QKeySequence("Ctrl+O"));
+  AddCommand(file, kCmdClose, TR("&Close"), QKeySequence("Ctrl+W"));
+  file->addSeparator();
+  AddCommand(file, kCmdExit, TR("&Exit"), QKeySequence("Ctrl+X"));
+
+  QMenu* test = mb->addMenu(TR("&Test"));
+  AddCommand(test, kCmdTest, TR("&Test"), QKeySequence("Ctrl+L"));
+  AddCommand(test, kCmdBatch, TR("&Batch Processor..."), QKeySequence("Ctrl+P"));
+  test->addSeparator();
+  QMenu* show = test->addMenu(TR("&Show"));
+  AddCommand(show, kCmdShowPercent, TR("%"))->setCheckable(true);
+  AddCommand(show, kCmdShowDb, TR("dB"))->setCheckable(true);
+  test->addSeparator();
+  AddCommand(test, kCmdUseDatabase, TR("&Use Database"), QKeySequence("Alt+U"))->setCheckable(true);
+  AddCommand(test, kCmdClearDatabase, TR("&Clear Database"), QKeySequence("Alt+C"));
+  AddCommand(test, kCmdDatabase, TR("&Database..."), QKeySequence("Alt+D"));
+
+  QMenu* player = mb->addMenu(TR("&Player"));
+  AddCommand(player, kCmdPlayPause, TR("Play / Pa&use"), QKeySequence("Ctrl+U"));
+  AddCommand(player, kCmdStop, TR("&Stop"), QKeySequence("Ctrl+T"));
+  QMenu* volume = player->addMenu(TR("&Volume"));
+  AddCommand(volume, kCmdVolumeUp, TR("Up"), QKeySequence("F10"));
+  AddCommand(volume, kCmdVolumeDown, TR("Down"), QKeySequence("F9"));
+  AddCommand(volume, kCmdMute, TR("Mute"), QKeySequence("F8"));
+  player->addSeparator();
+  AddCommand(player, kCmdPrevious, TR("P&revious"), QKeySequence("P"));
+  AddCommand(player, kCmdNext, TR("&Next"), QKeySequence("N"));
+  AddCommand(player, kCmdShuffle, TR("&Shuffle"), QKeySequence("S"))->setCheckable(true);
+  AddCommand(player, kCmdRepeat, TR("&Repeat"), QKeySequence("R"))->setCheckable(true);
+  AddCommand(player, kCmdRepeatAll, TR("R&epeat All"), QKeySequence("L"))->setCheckable(true);
+
+  QMenu* options = mb->addMenu(TR("&Options"));
+  AddCommand(options, kCmdAlwaysOnTop, TR("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
+  AddCommand(options, kCmdBeep, TR("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
+
+  QMenu* help = mb->addMenu(TR("&Help"));
+  AddCommand(help, kCmdHelp, TR("Help &Tonvane"), QKeySequence("F1"));
+  AddCommand(help, kCmdHomepage, TR("&Open Homepage Tonvane"));
+  help->addSeparator();
+  AddCommand(help, kCmdAbout, TR("&About Tonvane..."));
+
+  connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
+}
+
+void CBrenlowv10Dlg::BuildToolBar() {
+  m_toolBar = addToolBar(TR("Tool Bar"));
+  m_toolBar->setObjectName("toolBar");
+  m_toolBar->setMovable(false);
+  m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  QStyle* st = style();
+  struct Item {
+    int id;
+    QStyle::StandardPixmap icon;
+    const char* caption;
+    const char* tip;
+  };
+  const Item items[] = {
+      {757, QStyle::SP_DialogOpenButton, "Open", "Open (Ctrl+O)"},
+      {309, QStyle::SP_FileDialogListView, "Batch", "Batch Processor (Ctrl+P)"},
+      {756, QStyle::SP_DialogHelpButton, "Help", "Help (F1)"},
+      {304, QStyle::SP_DialogCloseButton, "Exit", "Exit (Ctrl+X)"},
+  };
+  for (const Item& it : items) {
+    if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
+    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), TR(it.caption));
+    a->setToolTip(TR(it.tip));
+    a->setData(it.id);
+    a->setObjectName(QStringLiteral("tool%1").arg(it.id));
+    m_actions[it.id] = a;
+  }
+  connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
+}
+
+void CBrenlowv10Dlg::BuildCentral() {
+  auto* central = new QWidget(this);
+  auto* outer = new QVBoxLayout(central);
+
+  // File line.
+  auto* fileLine = new QHBoxLayout;
+  auto* fileLabel = MakeLabel(TR("File Name:"), central, "fileLabel");
+  m_fileCombo = new QComboBox(central);
+  m_fileCombo->setObjectName("fileCombo");
+  m_fileCombo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  fileLine->addWidget(fileLabel);
+  fileLine->addWidget(m_fileCombo, 1);
+  outer->addLayout(fileLine);
+  m_controls[kIdFileLabel] = fileLabel;
+  m_controls[kIdFileCombo] = m_fileCombo;
+
+  // Group "Test".
+  auto* testGroup = new QGroupBox(TR("Test"), central);
+  testGroup->setObjectName("testGroup");
+  auto* testLayout = new QHBoxLayout(testGroup);
+
+  auto* left = new QVBoxLayout;
+  m_testButton = new QPushButton(TR("Test"), testGroup);
+  m_testButton->setObjectName("testButton");
+  m_testButton->setMinimumHeight(30);
+  left->addWidget(m_testButton);
+  auto* panel = new QFrame(testGroup);
+  panel->setObjectName("propertyPanel");
+  panel->setFrameShape(QFrame::StyledPanel);
+  auto* panelLayout = new QVBoxLayout(panel);
+  panelLayout->setSpacing(2);
+  auto* header = MakeLabel(TR(" Property"), panel, "propertyHeader");
+  QFont bold = header->font();
+  bold.setBold(true);
+  header->setFont(bold);
+  panelLayout->addWidget(header);
+  m_controls[kIdPropertyHeader] = header;
+  for (int i = 0; i < 5; ++i) {
+    m_propertyLabels[size_t(i)] = MakeLabel(TR(kPropertyCaptions[i]), panel, QStringLiteral("property%1").arg(i + 1));
+    QFont mono("Monospace");
+    mono.setStyleHint(QFont::TypeWriter);
+    m_propertyLabels[size_t(i)]->setFont(mono);
+    panelLayout->addWidget(m_propertyLabels[size_t(i)]);
+  }
+  left->addWidget(panel);
+  auto* radios = new QFrame(testGroup);
+  radios->setFrameShape(QFrame::StyledPanel);
+  auto* radiosLayout = new QVBoxLayout(radios);
+  m_peakRadio = new QRadioButton(TR("Test Peak Level"), radios);
+  m_peakRadio->setObjectName("peakRadio");
+  m_averageRadio = new QRadioButton(TR("Test Average Level"), radios);
+  m_averageRadio->setObjectName("averageRadio");
+  radiosLayout->addWidget(m_peakRadio);
+  radiosLayout->addWidget(m_averageRadio);
+  left->addWidget(radios);
+  left->addStretch(1);
+  testLayout->addLayout(left, 3);
+  m_controls[kIdTestButton] = m_testButton;
+  m_controls[kIdPeakRadio] = m_peakRadio;
+  m_controls[kIdAverageRadio] = m_averageRadio;
+
+  // The two level bars with their titles, captions and labels.
+  auto* bars = new QGridLayout;
+  m_leftBar = MakeLevelBar(testGroup, "leftBar");
+  m_rightBar = MakeLevelBar(testGroup, "rightBar");
+  auto* leftTitle = MakeLabel(TR("Left"), testGroup, "leftTitle");
+  auto* rightTitle = MakeLabel(TR("Right"), testGroup, "rightTitle");
+  leftTitle->setAlignment(Qt::AlignCenter);
+  rightTitle->setAlignment(Qt::AlignCenter);
+  m_scaleLabel = MakeLabel(QString(), testGroup, "scaleLabel");
+  m_scaleLabel->setAlignment(Qt::AlignCenter);
+  auto* maxLeft = MakeLabel(QString(), testGroup, "maxLevelLeft");
+  auto* maxRight = MakeLabel(QString(), testGroup, "maxLevelRight");
+  auto* clipLeft = MakeLabel(TR("Clipping"), testGroup, "clippingLeft");
+  auto* clipRight = MakeLabel(TR("Clipping"), testGroup, "clippingRight");
+  clipLeft->setVisible(false);
+  clipRight->setVisible(false);
+  bars->addWidget(leftTitle, 0, 0);
+  bars->addWidget(rightTitle, 0, 2);
+  bars->addWidget(m_leftBar, 1, 0, Qt::AlignHCenter);
+  bars->addWidget(m_scaleLabel, 1, 1, Qt::AlignCenter);
+  bars->addWidget(m_rightBar, 1, 2, Qt::AlignHCenter);
+  bars->addWidget(maxLeft, 2, 0);
+  bars->addWidget(maxRight, 2, 2);
+  bars->addWidget(clipLeft, 3, 0);
+  bars->addWidget(clipRight, 3, 2);
+  bars->setColumnMinimumWidth(1, 90);
+  testLayout->addLayout(bars, 2);
+  m_controls[kIdLeftBar] = m_leftBar;
+  m_controls[kIdRightBar] = m_rightBar;
+  outer->addWidget(testGroup, 1);
+
+  // Group "Player".
+  auto* playerGroup = new QGroupBox(TR("Player"), central);
+  playerGroup->setObjectName("playerGroup");
+  auto* playerLayout = new QVBoxLayout(playerGroup);
+  m_seekBar = new QSlider(Qt::Horizontal, playerGroup);
+  m_seekBar->setObjectName("seekBar");
+  m_seekBar->setEnabled(false);
+  playerLayout->addWidget(m_seekBar);
+  auto* transport = new QHBoxLayout;
+  QStyle* st = style();
+  struct Button {
+    int id;
+    QStyle::StandardPixmap icon;
+    const char* tip;
+  };
+  // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
+  const Button buttons[] = {
+      {kIdPlay, QStyle::SP_MediaPlay, "Play / Pause (Ctrl+U)"},
+      {kIdStop, QStyle::SP_MediaStop, "Stop (Ctrl+T)"},
+      {kIdShuffle, QStyle::SP_BrowserReload, "Shuffle (S)"},
+      {kIdRepeat, QStyle::SP_ArrowBack, "Repeat (R)"},
+      {kIdMute, QStyle::SP_MediaVolumeMuted, "Mute (F8)"},
+      {kIdPrevious, QStyle::SP_MediaSkipBackward, "Previous (P)"},
+      {kIdNext, QStyle::SP_MediaSkipForward, "Next (N)"},
+  };
+  for (const Button& b : buttons) {
+    auto* tb = new QToolButton(playerGroup);
+    tb->setIcon(st->standardIcon(b.icon));
+    tb->setToolTip(TR(b.tip));
+    tb->setObjectName(QStringLiteral("transport%1").arg(b.id));
+    tb->setIconSize(QSize(22, 22));
+    tb->setEnabled(false);  // the transport starts disabled
+    transport->addWidget(tb);
+    m_controls[b.id] = tb;
+  }
+  transport->addSpacing(16);
+  auto* volumeBox = new QVBoxLayout;
+  m_volumeSlider = new QSlider(Qt::Horizontal, playerGroup);
+  m_volumeSlider->setObjectName("volumeSlider");
+  m_volumeSlider->setRange(0, 100);
+  m_volumeSlider->setValue(100);
+  m_volumeSlider->setTickPosition(QSlider::TicksBelow);
+  m_volumeSlider->setTickInterval(10);
+  m_volumeSlider->setMinimumWidth(160);
+  m_volumeSlider->setToolTip(TR("Volume"));
+  volumeBox->addWidget(m_volumeSlider);
+  auto* marks = new QHBoxLayout;
+  marks->addWidget(MakeLabel(TR("0"), playerGroup, "mark0"));
+  marks->addStretch(1);
+  marks->addWidget(MakeLabel(TR("50"), playerGroup, "mark50"));
+  marks->addStretch(1);
+  marks->addWidget(MakeLabel(TR("100"), playerGroup, "mark100"));
+  volumeBox->addLayout(marks);
+  transport->addLayout(volumeBox);
+  m_controls[kIdVolume] = m_volumeSlider;
+  transport->addStretch(1);
+
+  // Time fields: position, and under "Total Time:" the length, in minutes, seconds and
+  // hundredths, with the unit label.
+  auto* times = new QGridLayout;
+  auto field = [&](const QString& name) {
+    auto* l = MakeLabel(QStringLiteral("00"), playerGroup, name);
+    l->setFrameShape(QFrame::Panel);
+    l->setFrameShadow(QFrame::Sunken);
+    l->setAlignment(Qt::AlignCenter);
+    l->setMinimumWidth(28);
+    return l;
+  };
+  times->addWidget(MakeLabel(TR("Time:"), playerGroup, "timeCaption"), 0, 0);
+  times->addWidget(field("posMinutes"), 0, 1);
+  times->addWidget(field("posSeconds"), 0, 2);
+  times->addWidget(field("posHundredths"), 0, 3);
+  times->addWidget(MakeLabel(TR("Total Time:"), playerGroup, "totalCaption"), 1, 0);
+  times->addWidget(field("totalMinutes"), 1, 1);
+  times->addWidget(field("totalSeconds"), 1, 2);
+  times->addWidget(field("totalHundredths"), 1, 3);
+  times->addWidget(MakeLabel(TR("(ms)"), playerGroup, "timeUnit"), 1, 4);
+  transport->addLayout(times);
+  playerLayout->addLayout(transport);
+  outer->addWidget(playerGroup);
+
+  setCentralWidget(central);
+}
+
+void CBrenlowv10Dlg::BuildStatusBar() {
+  QStatusBar* sb = statusBar();
+  m_statusProgress = new QProgressBar(sb);
+  m_statusProgress->setObjectName("statusProgress");
+  m_statusProgress->setRange(0, 100);
+  m_statusProgress->setFormat("%p%");
+  m_statusProgress->setVisible(false);
+  m_statusText = new QLabel(sb);
+  m_statusText->setObjectName("statusText");
+  m_statusText->setMinimumWidth(265);
+  sb->addWidget(m_statusProgress, 1);
+  sb->addPermanentWidget(m_statusText);
+}
+
+void CBrenlowv10Dlg::RenderFromSession() {
+  for (int i = 0; i < 5; ++i) {
+    const QString& line = m_s.m_propertyLines[i];
+    m_propertyLabels[size_t(i)]->setText(line.isEmpty() ? TR(kPropertyCaptions[i]) : line);
+  }
+  m_scaleLabel->setText(m_s.m_scaleLabel);
+  m_scaleLabel->setVisible(m_s.m_scaleLabelVisible != 0);
+  m_statusText->setText(m_s.m_statusText);
+  action(kCmdShowPercent)->setChecked(m_s.m_showDb == 0);
+  action(kCmdShowDb)->setChecked(m_s.m_showDb == 1);
+  action(kCmdUseDatabase)->setChecked(m_s.m_useDatabase != 0);
+  action(kCmdRepeatAll)->setChecked(m_s.m_looping != 0);
+  action(kCmdBeep)->setChecked(m_s.m_beep != 0);
+  action(kCmdShuffle)->setChecked(m_s.m_shuffle != 0);
+  action(kCmdRepeat)->setChecked(m_s.m_repeat != 0);
+  action(kCmdAlwaysOnTop)->setChecked(m_s.m_alwaysOnTop != 0);
+}
+
+void CBrenlowv10Dlg::ApplyEnablingRules() {
+  const bool busy = g_workerBusy.load() || m_s.m_opening;
+  const bool test = m_s.m_testRunning != 0;
+  const bool haveWork = !g_workPath.isEmpty();
+  if (busy) {
+    m_fileCombo->setEnabled(false);
+    control(kIdPlay)->setEnabled(false);
+    m_peakRadio->setEnabled(false);
+    m_averageRadio->setEnabled(false);
+    action(757)->setEnabled(false);
+    action(304)->setEnabled(false);
+    if (m_s.m_idleStatusShown) {
+      m_s.m_statusText = TR("  Copying of the file is fulfilling");
+      m_statusText->setText(m_s.m_statusText);
+      m_s.m_idleStatusShown = 0;
+    }
+  } else {
+    control(kIdPlay)->setEnabled(haveWork && m_s.m_canPlay);
+    if (test) {
+      m_fileCombo->setEnabled(false);
+      m_peakRadio->setEnabled(false);
+      m_averageRadio->setEnabled(false);
+    } else {
+      m_fileCombo->setEnabled(true);
+      action(757)->setEnabled(m_s.m_uiEnabledB != 0);
+      action(304)->setEnabled(true);
+      m_peakRadio->setEnabled(m_s.m_sourceKind != kKindMp3 && m_s.m_uiEnabledB);
+      m_averageRadio->setEnabled(m_s.m_uiEnabledB != 0);
+      m_peakRadio->setChecked(m_s.m_testMode == 0);
+      m_averageRadio->setChecked(m_s.m_testMode == 1);
+      if (!m_s.m_idleStatusShown) {
+        m_s.m_statusText.clear();
+        m_statusText->setText(QString());
+      }
+      m_s.m_idleStatusShown = 1;
+    }
+  }
+  action(309)->setEnabled(!busy && !test);
+  const bool transport = m_fileCombo->count() > 0 && haveWork && m_s.m_canPlay && !busy;
+  for (int id : {kIdPrevious, kIdNext, kIdRepeat, kIdShuffle}) control(id)->setEnabled(transport);
+
+  // Menu items follow the same rules as their buttons.
+  action(kCmdOpen)->setEnabled(!g_workerBusy.load() && m_s.m_uiEnabledB);
+  action(kCmdClose)->setEnabled(haveWork && !g_workerBusy.load() && m_s.m_uiEnabledA);
+  action(kCmdExit)->setEnabled(!test && !g_workerBusy.load());
+  action(kCmdTest)->setEnabled(!test && !g_workerBusy.load());
+  action(kCmdBatch)->setEnabled(!test && !g_workerBusy.load());
+  action(kCmdUseDatabase)->setEnabled(m_s.m_logAvailable != 0);
+  action(kCmdClearDatabase)->setEnabled(m_s.m_logAvailable != 0);
+  action(kCmdDatabase)->setEnabled(m_s.m_logAvailable != 0);
+  action(kCmdVolumeUp)->setEnabled(!m_s.m_restoreTempName.isEmpty());
+  action(kCmdVolumeDown)->setEnabled(!m_s.m_restoreTempName.isEmpty());
+  action(kCmdPlayPause)->setEnabled(control(kIdPlay)->isEnabled());
+  action(kCmdStop)->setEnabled(control(kIdStop)->isEnabled());
+  action(kCmdMute)->setEnabled(control(kIdMute)->isEnabled());
+  action(kCmdPrevious)->setEnabled(control(kIdPrevious)->isEnabled());
+  action(kCmdNext)->setEnabled(control(kIdNext)->isEnabled());
+}
+
+void CBrenlowv10Dlg::timerEvent(QTimerEvent* e) {
+  if (e->timerId() == m_timer1) {
+    ++m_enableTicks;
+    ApplyEnablingRules();
+    return;
+  }
+  QMainWindow::timerEvent(e);
+}
+
+void CBrenlowv10Dlg::keyPressEvent(QKeyEvent* e) {
+  // Esc does nothing: the window is left only through Exit and the close box.
+  if (e->key() == Qt::Key_Escape) return;
+  if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+    OpenByName(QString());
+    return;
+  }
+  QMainWindow::keyPressEvent(e);
+}
+
+void CBrenlowv10Dlg::OpenByName(const QString& path) {
+  // Reopening the list's selection comes with the open pipeline in the window.
+  Q_UNUSED(path);
+}
+
+void CBrenlowv10Dlg::OnExit() {
+  if (m_s.m_testRunning) {
+    m_s.m_exitRequested = 1;
+    return;
+  }
+  Shutdown();
+}
+
+void CBrenlowv10Dlg::closeEvent(QCloseEvent* e) {
+  // The close box does nothing while a worker fills the work file.
+  if (g_workerBusy.load()) {
+    e->ignore();
+    return;
+  }
+  if (m_s.m_testRunning) {
+    m_s.m_exitRequested = 1;
+    e->ignore();
+    return;
+  }
+  Shutdown();
+  e->accept();
+}
+
+void CBrenlowv10Dlg::Shutdown() {
+  if (m_timer1) killTimer(m_timer1);
+  m_timer1 = 0;
+  JoinWorker();
+  if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
+  if (!m_s.m_restoreTempName.isEmpty()) DeleteWorkFile(m_s.m_restoreTempName);
+  m_s.m_restoreTempName.clear();
+  ClearSessionPaths();
+  QApplication::quit();
+}
