@@ -5,6 +5,7 @@
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
+#include "formats/FlacSource.h"
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
 #include "level/GainEngine.h"
@@ -148,6 +149,9 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
       WaitForWorker(s);
       if (g_copyFailed.exchange(0) || g_workPath.isEmpty())
         return fail(TR("Sorry, the test is stopped because the file was not opened for it."));
+      // A FLAC file whose decoder reported errors opens, but is not tested.
+      if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName))
+        return fail(TR("Sorry but the file ") + s.m_fileName + TR(" has errors. ") + FlacStatusText(g_flacStatus));
     }
     int rc = 0;
     if (mode == 0) {

@@ -104,6 +104,8 @@ struct Session {
   // has unwound (the open that asked would otherwise tear down the file chosen in it).
   int m_openDialogPending = 0;
   int m_openDepth = 0;
+  // Who runs a decoder: -1 the main window's open, 1 the batch run (its own output file).
+  int m_decodeContext = -1;
   uint32_t m_allocGranularity = kAllocGranularity;
 
   // --- What the window shows of the file ---

@@ -132,6 +132,10 @@ WorkFileWriter::~WorkFileWriter() { Close(); }
 
 bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, int bits,
                             uint16_t formatTag, uint32_t dataBytes, const QString& sourcePath) {
+  return Open(path, sourcePath) && WriteHeader(channels, sampleRate, bits, formatTag, dataBytes);
+}
+
+bool WorkFileWriter::Open(const QString& path, const QString& sourcePath) {
   Close();
   m_path = path;
   m_written = 0;
@@ -149,7 +153,14 @@ bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, i
     m_errno = errno;
     return false;
   }
+  return true;
+}
+
+bool WorkFileWriter::WriteHeader(int channels, int sampleRate, int bits, uint16_t formatTag,
+                                 uint32_t dataBytes) {
+  if (m_fd < 0) return false;
   QByteArray h = MakeWorkHeader(channels, sampleRate, bits, formatTag, dataBytes);
+  errno = 0;
   if (::write(m_fd, h.constData(), size_t(h.size())) != h.size()) {
     m_errno = errno ? errno : ENOSPC;
     Close();

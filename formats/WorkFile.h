@@ -49,6 +49,11 @@ class WorkFileWriter : public PcmSink {
   // leaves the errno value in LastErrno(). Refuses the source path itself.
   bool Create(const QString& path, int channels, int sampleRate, int bits, uint16_t formatTag,
               uint32_t dataBytes, const QString& sourcePath = {});
+  // The two halves of Create, for decoders that write the header only once the stream
+  // tells its format: Open creates (or truncates) the file and writes nothing.
+  bool Open(const QString& path, const QString& sourcePath = {});
+  // Writes the 44-byte header at the current position; header bytes are not sample bytes.
+  bool WriteHeader(int channels, int sampleRate, int bits, uint16_t formatTag, uint32_t dataBytes);
   bool Write(const void* data, size_t bytes) override;
   // Sizes from `total` as a float: riffSize = total + 36, clamped to 0xFFFFFF00.
   // Returns false on a failed seek or write (LastStep tells which: 1 seek, 2 write).
