@@ -91,6 +91,7 @@ struct Session {
   QString m_fileNameCopy;
   QString m_previousFileName;
   int m_fileNotOpened = 0;
+  int m_navigating = 0;  // the player's next or previous step opens the file
   int m_opening = 0;
   const uint8_t* m_mappedView = nullptr;
   int m_windowedMapping = 0;

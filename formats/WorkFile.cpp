@@ -124,6 +124,7 @@ bool DeleteWorkFile(const QString& path) {
   QByteArray native = QFile::encodeName(path);
   struct stat st;
   if (::lstat(native.constData(), &st) != 0) return errno == ENOENT;
+  if (!S_ISREG(st.st_mode)) return false;  // a work file is a plain file; never a device or link
   ClearReadOnlyBit(native);
   return ::unlink(native.constData()) == 0 || errno == ENOENT;
 }

@@ -1,0 +1,488 @@
+// The MPEG reader's bottom layers: the mapped stream and its windows, header search and
+// parse, frames, the frame walk, and the VBR headers, on bytes built here.
+#include <gtest/gtest.h>
+
+#include <QList>
+#include <functional>
+#include <memory>
+
+#include "formats/mpeg/MPAException.h"
+#include "formats/mpeg/MPAFile.h"
+#include "formats/mpeg/MPAHeader.h"
+#include "formats/mpeg/MPAStream.h"
+#include "formats/mpeg/VBRHeader.h"
+#include "MpegTestFrames.h"
+
+using namespace mpeg_test;
+
+namespace {
+
+const uint8_t* U8(const QByteArray& b) { return reinterpret_cast<const uint8_t*>(b.constData()); }
+
+// Keeps the bytes alive for as long as the stream that views them.
+struct MemoryStream {
+  explicit MemoryStream(QByteArray b) : bytes(std::move(b)), stream("mem", U8(bytes), uint32_t(bytes.size())) {}
+  QByteArray bytes;
+  CMPAFileStream stream;
+};
+
+std::unique_ptr<CMPAFile> FileOf(const QByteArray& bytes, QByteArray& keep) {
+  keep = bytes;
+  return std::make_unique<CMPAFile>(std::make_unique<CMPAFileStream>("mem", U8(keep), uint32_t(keep.size())));
+}
+
+int ErrorOf(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const CMPAException& e) {
+    return e.GetError();
+  }
+  return -1;
+}
+
+}  // namespace
+
+TEST(MpegStream, WindowsForwardAndBackwardStayInsideTheFile) {
+  QByteArray bytes(5000, '\0');
+  for (int i = 0; i < bytes.size(); ++i) bytes[i] = char(i * 7);
+  MemoryStream m(bytes);
+  CMPAFileStream& s = m.stream;
+  EXPECT_EQ(s.GetSize(), 5000u);
+
+  uint32_t off = 10;
+  const uint8_t* p = s.ReadBytes(4, off, true);
+  ASSERT_NE(p, nullptr);
+  EXPECT_EQ(p[0], uint8_t(70));
+  EXPECT_EQ(off, 14u);
+  EXPECT_EQ(s.WindowStart(), 0u);  // the first window still holds it
+
+  off = 3000;
+  ASSERT_NE(s.ReadBytes(8, off, false), nullptr);
+  EXPECT_EQ(off, 3000u);
+  EXPECT_EQ(s.WindowStart(), 3000u);
+  EXPECT_EQ(s.WindowLength(), 1024u);
+
+  // Backwards: the window ends at offset + size.
+  off = 2000;
+  ASSERT_NE(s.ReadBytes(9, off, false, true), nullptr);
+  EXPECT_EQ(s.WindowStart(), 2009u - 1024u);
+  off = 100;
+  ASSERT_NE(s.ReadBytes(9, off, false, true), nullptr);
+  EXPECT_EQ(s.WindowStart(), 0u);  // not before the file
+
+  // Near the end the window is cut; bytes past the end are never handed out.
+  off = 4990;
+  ASSERT_NE(s.ReadBytes(10, off, false), nullptr);
+  EXPECT_EQ(s.WindowLength(), 10u);
+  off = 4991;
+  EXPECT_EQ(s.ReadBytes(10, off, false), nullptr);
+  off = 4996;
+  EXPECT_EQ(s.ReadBytes(9, off, false, true), nullptr);
+  off = 5000;
+  EXPECT_EQ(s.ReadBytes(1, off, false), nullptr);
+  off = 0xFFFFFFF0u;
+  EXPECT_EQ(s.ReadBytes(32, off, false), nullptr);
+
+  // A read larger than the window widens it for good.
+  off = 0;
+  ASSERT_NE(s.ReadBytes(3000, off, false), nullptr);
+  EXPECT_EQ(s.WindowLength(), 3000u);
+}
+
+TEST(MpegStream, NumbersAndUnreadableBytes) {
+  MemoryStream m(QByteArray::fromHex("0102030405"));
+  CMPAFileStream& s = m.stream;
+  uint32_t off = 0;
+  EXPECT_EQ(s.ReadBEValue(4, off), 0x01020304u);
+  EXPECT_EQ(off, 4u);
+  off = 0;
+  EXPECT_EQ(s.ReadLEValue(3, off, false), 0x030201u);
+  EXPECT_EQ(off, 0u);
+  off = 3;
+  EXPECT_EQ(s.ReadBEValue(4, off), 0u);  // only two bytes left
+  EXPECT_EQ(off, 3u);
+  EXPECT_EQ(s.ReadBEValue(5, off), 0u);
+
+  CMPAFileStream missing("/nonexistent/Prøve 🤔.mp3");
+  off = 0;
+  EXPECT_EQ(missing.GetSize(), 0u);
+  EXPECT_EQ(missing.ReadBytes(1, off, false), nullptr);
+}
+
+TEST(MpegHeader, ParseValuesAndFrameLengths) {
+  struct Case {
+    FrameSpec spec;
+    uint32_t bitRate, sampleRate, samples, frameSize, sideInfo;
+  };
+  FrameSpec l3;  // MPEG 1 Layer III 128 kbit/s 44100 Hz
+  FrameSpec l3pad = l3;
+  l3pad.padding = 1;
+  FrameSpec l3mono = l3;
+  l3mono.mode = 3;
+  FrameSpec l1{3, 0, 1, 1, 0, 0, 0};       // MPEG 1 Layer I 32 kbit/s 48000 Hz
+  FrameSpec l2{3, 1, 10, 2, 1, 0, 0};      // MPEG 1 Layer II 192 kbit/s 32000 Hz, padded
+  FrameSpec m2{2, 2, 8, 0, 0, 1, 0};       // MPEG 2 Layer III 64 kbit/s 22050 Hz
+  FrameSpec m2mono{2, 2, 8, 0, 0, 3, 0};
+  FrameSpec m25{0, 2, 2, 2, 0, 1, 0};      // MPEG 2.5 Layer III 16 kbit/s 8000 Hz
+  FrameSpec m2l1{2, 0, 9, 1, 0, 0, 0};     // MPEG 2 Layer I 144 kbit/s 24000 Hz
+  const Case cases[] = {
+      {l3, 128000, 44100, 1152, 417, 32},  {l3pad, 128000, 44100, 1152, 418, 32},
+      {l3mono, 128000, 44100, 1152, 417, 17}, {l1, 32000, 48000, 384, 32, 32},
+      {l2, 192000, 32000, 1152, 865, 32},  {m2, 64000, 22050, 576, 208, 17},
+      {m2mono, 64000, 22050, 576, 208, 9}, {m25, 16000, 8000, 576, 144, 17},
+      {m2l1, 144000, 24000, 384, 288, 17},
+  };
+  for (const Case& c : cases) {
+    QByteArray b = HeaderBytes(c.spec);
+    CMPAHeader h(U8(b), 0);
+    EXPECT_EQ(h.bitRate, c.bitRate);
+    EXPECT_EQ(h.sampleRate, c.sampleRate);
+    EXPECT_EQ(h.samplesPerFrame, c.samples);
+    EXPECT_EQ(h.CalcFrameSize(), c.frameSize) << c.bitRate << " " << c.sampleRate;
+    EXPECT_EQ(h.GetSideInfoSize(), c.sideInfo);
+    EXPECT_EQ(h.lsf, c.spec.versionBits == 3 ? 0 : 1);
+  }
+}
+
+TEST(MpegHeader, CorruptHeadersAndLayerTwoModes) {
+  auto parseError = [](FrameSpec f) {
+    QByteArray b = HeaderBytes(f);
+    return ErrorOf([&] { CMPAHeader h(U8(b), 0); });
+  };
+  FrameSpec f;
+  f.versionBits = 1;
+  EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
+  f = FrameSpec();
+  f.layer = 3;  // layer bits 00
+  EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
+  f = FrameSpec();
+  f.bitRateIndex = 15;
+  EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
+  f = FrameSpec();
+  f.bitRateIndex = 0;
+  EXPECT_EQ(parseError(f), CMPAException::FreeBitrate);
+  f = FrameSpec();
+  f.rateIndex = 3;
+  EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
+  f = FrameSpec();
+  f.emphasis = 2;
+  EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
+  f.emphasis = 1;
+  EXPECT_EQ(parseError(f), -1);
+
+  // MPEG 1 Layer II: 32 to 56 kbit/s only in mono, 224 kbit/s and more only in stereo.
+  FrameSpec l2{3, 1, 1, 0, 0, 0, 0};
+  for (int mode : {0, 1, 2}) {
+    l2.mode = mode;
+    for (int i : {1, 2, 3}) {
+      l2.bitRateIndex = i;
+      EXPECT_EQ(parseError(l2), CMPAException::HeaderCorrupt) << mode << " " << i;
+    }
+    l2.bitRateIndex = 14;
+    EXPECT_EQ(parseError(l2), -1);
+  }
+  l2.mode = 3;
+  for (int i = 1; i <= 10; ++i) {
+    l2.bitRateIndex = i;
+    EXPECT_EQ(parseError(l2), -1) << i;
+  }
+  for (int i = 11; i <= 14; ++i) {
+    l2.bitRateIndex = i;
+    EXPECT_EQ(parseError(l2), CMPAException::HeaderCorrupt) << i;
+  }
+  // MPEG 2 Layer II knows no such rule.
+  FrameSpec m2l2{2, 1, 1, 0, 0, 0, 0};
+  EXPECT_EQ(parseError(m2l2), -1);
+}
+
+TEST(MpegHeader, HeadersAgreeOnVersionLayerRateMonoAndEmphasis) {
+  auto header = [](FrameSpec f) {
+    QByteArray b = HeaderBytes(f);
+    return CMPAHeader(U8(b), 0);
+  };
+  FrameSpec a;
+  FrameSpec b = a;
+  b.bitRateIndex = 14;
+  b.padding = 1;
+  b.mode = 0;  // stereo against joint stereo: both not mono
+  EXPECT_TRUE(header(a) == header(b));
+  b = a;
+  b.mode = 3;
+  EXPECT_FALSE(header(a) == header(b));
+  b = a;
+  b.emphasis = 1;
+  EXPECT_FALSE(header(a) == header(b));
+  b = a;
+  b.rateIndex = 1;
+  EXPECT_FALSE(header(a) == header(b));
+  b = a;
+  b.layer = 1;
+  EXPECT_FALSE(header(a) == header(b));
+  b = a;
+  b.versionBits = 2;
+  b.rateIndex = 0;
+  EXPECT_FALSE(header(a) == header(b));
+}
+
+TEST(MpegHeader, ExactSearchTriesThreeBytesEitherSide) {
+  const QByteArray h = HeaderBytes(FrameSpec());
+  // A header at `shift` from the expected place 100, in zeros.
+  auto found = [&](int shift, uint32_t& where) {
+    QByteArray bytes(400, '\0');
+    bytes.replace(100 + shift, 4, h);
+    MemoryStream m(bytes);
+    where = 100;
+    return ErrorOf([&] { CMPAHeader header(&m.stream, where, true); });
+  };
+  uint32_t where = 0;
+  for (int shift : {0, 1, -1, 2, -2, 3, -3}) {
+    EXPECT_EQ(found(shift, where), -1) << shift;
+    EXPECT_EQ(where, uint32_t(100 + shift));
+  }
+  for (int shift : {4, -4, 20}) {
+    EXPECT_EQ(found(shift, where), CMPAException::NoFrameInTolerance) << shift;
+    EXPECT_EQ(where, 97u);  // the walk ends 3 bytes before the expected place
+  }
+
+  // Headers at both +1 and -1: +1 is tried first.
+  QByteArray both(400, '\0');
+  both.replace(99, 4, h);
+  both.replace(101, 4, h);
+  MemoryStream m(both);
+  where = 100;
+  CMPAHeader first(&m.stream, where, true);
+  EXPECT_EQ(where, 101u);
+
+  // A bad header right at the place is an error at once, not a reason to walk on.
+  QByteArray bad(400, '\0');
+  FrameSpec corrupt;
+  corrupt.emphasis = 2;
+  bad.replace(100, 4, HeaderBytes(corrupt));
+  bad.replace(200, 4, h);
+  MemoryStream mb(bad);
+  where = 100;
+  EXPECT_EQ(ErrorOf([&] { CMPAHeader x(&mb.stream, where, true); }), CMPAException::HeaderCorrupt);
+  EXPECT_EQ(where, 100u);
+  // Without `exact` the same bytes are passed over.
+  CMPAHeader y(&mb.stream, where, false);
+  EXPECT_EQ(where, 200u);
+}
+
+TEST(MpegHeader, LooseSearchPassesBadAndIncompatibleHeadersAndEndsAtTheEnd) {
+  FrameSpec mono;
+  mono.mode = 3;
+  FrameSpec freeFormat;
+  freeFormat.bitRateIndex = 0;
+  QByteArray bytes(300, '\0');
+  bytes.replace(10, 4, HeaderBytes(freeFormat));
+  bytes.replace(50, 4, HeaderBytes(mono));
+  bytes.replace(200, 4, HeaderBytes(FrameSpec()));
+  MemoryStream m(bytes);
+
+  uint32_t where = 0;
+  CMPAHeader any(&m.stream, where, false);
+  EXPECT_EQ(where, 50u);  // free format is no acceptable header
+
+  QByteArray refBytes = HeaderBytes(FrameSpec());
+  CMPAHeader stereo(U8(refBytes), 0);
+  where = 0;
+  CMPAHeader matching(&m.stream, where, false, &stereo);
+  EXPECT_EQ(where, 200u);
+
+  where = 201;
+  EXPECT_EQ(ErrorOf([&] { CMPAHeader none(&m.stream, where, false); }), CMPAException::EndOfFile);
+  EXPECT_EQ(where, 297u);  // the last offset at which four bytes could be read, plus one
+}
+
+TEST(MpegFile, WalkResynchronisesAfterALostFrame) {
+  QByteArray bytes;
+  QList<int> offsets;
+  for (int i = 0; i < 20; ++i) {
+    offsets << bytes.size();
+    bytes.append(Mpeg1L3Frame(i % 2 ? 160 : 128));
+  }
+  // Frame 10 loses its header, frame 15 loses two bytes of its end.
+  bytes[offsets[10]] = 0;
+  bytes.remove(offsets[16] - 2, 2);
+  QByteArray keep;
+  auto file = FileOf(bytes, keep);
+
+  QList<uint32_t> seen;
+  CMPAFrame* f = file->GetFrame(CMPAFile::First);
+  while (f) {
+    seen << f->m_offset;
+    f = file->GetFrame(CMPAFile::Next, f, true);
+  }
+  QList<uint32_t> expected;
+  for (int i = 0; i < 20; ++i)
+    if (i != 10) expected << uint32_t(offsets[i] - (i >= 16 ? 2 : 0));
+  EXPECT_EQ(seen, expected);
+}
+
+TEST(MpegFile, GetFrameBoundsAndOwnership) {
+  QByteArray bytes = Mpeg1L3Frame(128) + Mpeg1L3Frame(128);
+  QByteArray keep;
+  auto file = FileOf(bytes, keep);
+  EXPECT_EQ(file->GetFrame(CMPAFile::Next, nullptr), nullptr);
+  EXPECT_EQ(file->GetFrame(CMPAFile::Search, nullptr, true, uint32_t(bytes.size())), nullptr);
+  std::unique_ptr<CMPAFrame> first(file->GetFrame(CMPAFile::First));
+  ASSERT_TRUE(first);
+  EXPECT_EQ(first->m_frameSize, 417u);
+  std::unique_ptr<CMPAFrame> second(file->GetFrame(CMPAFile::Next, first.get(), false));
+  ASSERT_TRUE(second);
+  EXPECT_EQ(second->m_offset, 417u);
+  EXPECT_EQ(file->GetFrame(CMPAFile::Next, second.release(), true), nullptr);
+  std::unique_ptr<CMPAFrame> searched(file->GetFrame(CMPAFile::Search, nullptr, false, 1));
+  ASSERT_TRUE(searched);
+  EXPECT_EQ(searched->m_offset, 417u);
+}
+
+TEST(MpegFile, NoFrameAtAllThrowsEndOfFile) {
+  QByteArray keep;
+  FrameSpec freeFormat;
+  freeFormat.bitRateIndex = 0;
+  const QByteArray freeFrames = HeaderBytes(freeFormat) + QByteArray(400, '\0') + HeaderBytes(freeFormat);
+  EXPECT_EQ(ErrorOf([&] { FileOf(freeFrames, keep); }), CMPAException::EndOfFile);
+  EXPECT_EQ(ErrorOf([&] { FileOf(QByteArray(), keep); }), CMPAException::EndOfFile);
+}
+
+namespace {
+
+// A first frame carrying a Xing header with `flags` at the place for its mode.
+QByteArray XingFrame(FrameSpec spec, int kbps, int rate, const char* id, uint32_t flags, uint32_t frames,
+                     uint32_t bytes, bool lame) {
+  QByteArray f = Frame(spec, kbps, rate);
+  CMPAHeader h(reinterpret_cast<const uint8_t*>(HeaderBytes(spec).constData()), 0);
+  int at = 4 + int(h.GetSideInfoSize());
+  f.replace(at, 4, id);
+  PutBe32(f, at + 4, flags);
+  int p = at + 8;
+  if (flags & 1) PutBe32(f, p, frames), p += 4;
+  if (flags & 2) PutBe32(f, p, bytes), p += 4;
+  if (flags & 4) {
+    for (int i = 0; i < 100; ++i) f[p + i] = char(i * 2);
+    p += 100;
+  }
+  if (flags & 8) PutBe32(f, p, 57), p += 4;
+  if (lame) {
+    f.replace(at + 120, 9, "LAME3.99r");
+    f[at + 120 + 9] = char(0x14);  // revision 1, method 4
+    f[at + 120 + 10] = char(195);  // 19500 Hz
+    f[at + 120 + 20] = char(128);
+  }
+  return f;
+}
+
+}  // namespace
+
+TEST(MpegVbrHeader, XingAndInfoStandBehindTheSideInformation) {
+  struct Case {
+    FrameSpec spec;
+    int kbps, rate;
+    uint32_t place;
+  };
+  FrameSpec stereo1;
+  FrameSpec mono1;
+  mono1.mode = 3;
+  FrameSpec stereo2{2, 2, 8, 0, 0, 1, 0};
+  FrameSpec mono2{2, 2, 8, 0, 0, 3, 0};
+  const Case cases[] = {{stereo1, 128, 44100, 36}, {mono1, 128, 44100, 21}, {stereo2, 64, 22050, 21},
+                        {mono2, 64, 22050, 13}};
+  for (const Case& c : cases) {
+    for (const char* id : {"Xing", "Info"}) {
+      QByteArray bytes = QByteArray(100, '\0') + XingFrame(c.spec, c.kbps, c.rate, id, 0xF, 1234, 99999, true);
+      bytes.append(Frame(c.spec, c.kbps, c.rate));
+      QByteArray keep;
+      auto file = FileOf(bytes, keep);
+      const CVBRHeader* vbr = file->GetVBRHeader();
+      ASSERT_NE(vbr, nullptr) << id << " " << c.place;
+      EXPECT_EQ(vbr->offset, 100 + c.place);
+      EXPECT_EQ(vbr->frames, 1234u);
+      EXPECT_EQ(vbr->bytes, 99999u);
+      EXPECT_EQ(vbr->quality, 57u);
+      ASSERT_EQ(vbr->toc.size(), 100u);
+      EXPECT_EQ(vbr->toc[99], 198u);
+      auto* xing = dynamic_cast<const CXINGHeader*>(vbr);
+      ASSERT_NE(xing, nullptr);
+      ASSERT_TRUE(xing->lameTag);
+      EXPECT_EQ(xing->lameTag->encoder, "LAME3.99r");
+      EXPECT_FALSE(xing->lameTag->simpleTag);
+      EXPECT_EQ(xing->lameTag->revision, 1);
+      EXPECT_EQ(xing->lameTag->GetVBRInfo(), "VBR2");
+      EXPECT_TRUE(xing->lameTag->IsVBR());
+      EXPECT_EQ(xing->lameTag->lowpass, 19500u);
+      EXPECT_EQ(xing->lameTag->bitRate, 128);
+      EXPECT_EQ(xing->lameTag->GetSize(), 0u);
+    }
+  }
+}
+
+TEST(MpegVbrHeader, XingFieldsFollowTheirFlagsAndOldLameTagsAreSimple) {
+  QByteArray f = XingFrame(FrameSpec(), 128, 44100, "Xing", 2 | 8, 0, 5000, false);
+  f.replace(36 + 120, 20, "LAME3.88 (beta)     ");
+  QByteArray keep;
+  auto file = FileOf(f + Mpeg1L3Frame(128), keep);
+  const CVBRHeader* vbr = file->GetVBRHeader();
+  ASSERT_NE(vbr, nullptr);
+  EXPECT_EQ(vbr->frames, 0u);
+  EXPECT_EQ(vbr->bytes, 5000u);
+  EXPECT_EQ(vbr->quality, 57u);  // read right behind the bytes
+  EXPECT_TRUE(vbr->toc.empty());
+  auto* xing = dynamic_cast<const CXINGHeader*>(vbr);
+  ASSERT_TRUE(xing->lameTag);
+  EXPECT_TRUE(xing->lameTag->simpleTag);
+  EXPECT_EQ(xing->lameTag->encoder, "LAME3.88 (beta)     ");
+
+  // The identifier in the wrong place for the mode is no header.
+  QByteArray wrong = Mpeg1L3Frame(128);
+  wrong.replace(21, 4, "Xing");
+  auto none = FileOf(wrong + Mpeg1L3Frame(128), keep);
+  EXPECT_EQ(none->GetVBRHeader(), nullptr);
+}
+
+TEST(MpegVbrHeader, VbriStandsAt36WhateverTheMode) {
+  FrameSpec mono;
+  mono.mode = 3;
+  QByteArray f = Frame(mono, 128, 44100);
+  f.replace(36, 4, "VBRI");
+  PutBe16(f, 40, 1);       // version
+  PutBe16(f, 42, 1105);    // delay
+  PutBe16(f, 44, 75);      // quality
+  PutBe32(f, 46, 800000);  // bytes
+  PutBe32(f, 50, 3000);    // frames
+  PutBe16(f, 54, 9);       // ten entries
+  PutBe16(f, 56, 1);       // scale
+  PutBe16(f, 58, 3);       // bytes per entry
+  PutBe16(f, 60, 300);     // frames per entry
+  for (int i = 0; i < 10; ++i) {
+    f[62 + 3 * i] = 0;
+    f[63 + 3 * i] = char(i + 1);
+    f[64 + 3 * i] = char(0x10);
+  }
+  QByteArray keep;
+  auto file = FileOf(f + Frame(mono, 128, 44100), keep);
+  auto* vbri = dynamic_cast<const CVBRIHeader*>(file->GetVBRHeader());
+  ASSERT_NE(vbri, nullptr);
+  EXPECT_EQ(vbri->offset, 36u);
+  EXPECT_EQ(vbri->version, 1u);
+  EXPECT_FLOAT_EQ(vbri->delay, 1105.0f);
+  EXPECT_EQ(vbri->quality, 75u);
+  EXPECT_EQ(vbri->bytes, 800000u);
+  EXPECT_EQ(vbri->frames, 3000u);
+  EXPECT_EQ(vbri->tocEntries, 10u);
+  EXPECT_EQ(vbri->tableScale, 1u);
+  EXPECT_EQ(vbri->bytesPerEntry, 3u);
+  EXPECT_EQ(vbri->framesPerEntry, 300u);
+  ASSERT_EQ(vbri->toc.size(), 10u);
+  EXPECT_EQ(vbri->toc[0], 0x0110u);
+  EXPECT_EQ(vbri->toc[9], 0x0A10u);
+  EXPECT_EQ(vbri->lengthSec, 3000u * 1152u / 44100u);
+
+  // Cut inside the table: what can't be read is 0.
+  QByteArray cut = f.left(70);
+  auto partial = FileOf(cut, keep);
+  auto* p = dynamic_cast<const CVBRIHeader*>(partial->GetVBRHeader());
+  ASSERT_NE(p, nullptr);
+  EXPECT_EQ(p->toc[1], 0x0210u);
+  EXPECT_EQ(p->toc[2], 0u);
+}
