@@ -1,7 +1,10 @@
 #include "app/HeadlessTest.h"
 
 #include <QFileInfo>
+#include <QThread>
+#include <cerrno>
 
+#include "app/FileErrors.h"
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
@@ -76,6 +79,46 @@ void ResultToPeak(Session& s) {
 
 }  // namespace
 
+bool LookUpLog(Session& s, const QString& key, int mode, bool& hit) {
+  hit = false;
+  s.m_logRowState = int(RowState::Miss);
+  if (!s.m_useDatabase) return false;
+  TestLog log(s);
+  if (!log.OpenLog()) return false;
+  RowState state = log.FindRow(key);
+  s.m_logRowState = int(state);
+  if (state == RowState::Fresh) {
+    LevelResult fromRow;
+    ReadOutcome outcome = log.ReadResult(GroupOf(mode, s.m_showDb), fromRow);
+    // A partial row keeps its other groups, so the row written after the measurement
+    // still holds them.
+    s.m_result = fromRow;
+    if (outcome == ReadOutcome::Hit) {
+      if (mode == 0) ResultToPeak(s);
+      hit = true;
+    }
+  }
+  log.CloseLog();
+  return hit;
+}
+
+bool MeasureWorkFile(Session& s, int mode) {
+  if (mode == 0) {
+    if (ScanPeakLevels(s) != 0) return false;
+    PeakToResult(s);
+    return true;
+  }
+  return MeasureAverage(s) == kGainOk;
+}
+
+void StoreInLog(Session& s, const QString& key, int mode) {
+  if (!s.m_useDatabase) return;
+  TestLog log(s);
+  if (!log.OpenLog()) return;
+  log.WriteRow(key, GroupOf(mode, s.m_showDb), RowState(s.m_logRowState), s.m_result);
+  log.CloseLog();
+}
+
 HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QString& path,
                                 const HeadlessOptions& options) {
   HeadlessReport r;
@@ -98,7 +141,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   };
 
   if (!QFileInfo(full).isFile())
-    return fail(TR("Sorry, but the file ") + full + TR(" impossible. Because the file does not exist."));
+    return fail(FileErrorText(TR(" cannot be opened"), full, QString(), ErrorCodeFromErrno(ENOENT, full), true));
   if (KindOfName(full) < 0) return fail(TR("Sorry, but the type of this file is not supported."));
 
   // The header first, without a worker: enough for the properties and a look in the log.
@@ -124,28 +167,18 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
     return fail(TR("Sorry, but the peak test is not offered for MP3 files; use the average test."));
   s.m_testMode = mode;
 
-  TestLog log(s);
-  bool logOpen = s.m_useDatabase && log.OpenLog();
-  RowState state = RowState::Miss;
-  const LogTest group = GroupOf(mode, s.m_showDb);
-  if (logOpen) {
-    state = log.FindRow(full);
-    LevelResult fromRow;
-    if (state == RowState::Fresh && log.ReadResult(group, fromRow) == ReadOutcome::Hit) {
-      s.m_result = fromRow;
-      if (mode == 0) ResultToPeak(s);
-      r.fromLog = true;
-    }
-  }
-
-  if (!r.fromLog) {
+  bool fromLog = false;
+  if (LookUpLog(s, full, mode, fromLog)) {
+    r.fromLog = true;
+  } else {
     if (ReadInPlace(s, mode)) {
       g_workPath = g_sourcePath;
     } else {
       ResetFile(s);
       s.m_testMode = mode;
       s.m_showDb = options.showDb;
-      if (!OpenFileHeadless(s, full)) return fail(TR("Sorry, but the file ") + full + TR(" cannot be opened"));
+      if (!OpenFileHeadless(s, full))
+        return fail(TR("Sorry, but the file ") + full + TR(" cannot be opened"));
       WaitForWorker(s);
       if (g_copyFailed.exchange(0) || g_workPath.isEmpty())
         return fail(TR("Sorry, the test is stopped because the file was not opened for it."));
@@ -153,17 +186,10 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
       if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName))
         return fail(TR("Sorry but the file ") + s.m_fileName + TR(" has errors. ") + FlacStatusText(g_flacStatus));
     }
-    int rc = 0;
-    if (mode == 0) {
-      rc = ScanPeakLevels(s);
-      if (rc == 0) PeakToResult(s);
-    } else {
-      rc = MeasureAverage(s) == kGainOk ? 0 : 1;
-    }
-    if (rc != 0) return fail(TR("Sorry, but the test of the file ") + full + TR(" has failed."));
-    if (logOpen) log.WriteRow(full, group, state, s.m_result);
+    if (!MeasureWorkFile(s, mode))
+      return fail(TR("Sorry, but the test of the file ") + full + TR(" has failed."));
+    StoreInLog(s, full, mode);
   }
-  if (logOpen) log.CloseLog();
 
   r.sampleBytesRead = g_sampleBytesRead.load() - bytesBefore;
   r.levels = ChannelLevels(s);
@@ -171,4 +197,48 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   r.ok = true;
   DropWorkFile();
   return r;
+}
+
+int RunTestOnOpenFile(Session& s, bool& fromLog) {
+  fromLog = false;
+  if (g_workPath.isEmpty() || s.m_fileNotOpened) {
+    s.m_statusText = TR("  Test is stopped");
+    s.m_prompt.Ask(TR("Sorry, the test is stopped because the file was not opened for it.\n"
+                      "Do You want to open a dialog of selection a file?"));
+    return 0;
+  }
+  s.m_testRunning = 1;
+  s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 0;
+  s.m_statusText = TR("  Test of the volume level is fulfilling");
+  s.m_cancelRequested = 0;
+  s.SetProgress(0);
+  auto stop = [&s]() {
+    s.m_testRunning = 0;
+    s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
+    return 0;
+  };
+  // The bar creeps towards 30 percent while the worker still fills the work file.
+  int waited = 0;
+  while (g_workerBusy.load()) {
+    if (!s.PumpMessages() || s.m_exitRequested) return stop();
+    QThread::msleep(20);
+    if (++waited % 25 == 0 && s.m_progressPercent < 30) s.SetProgress(s.m_progressPercent + 1);
+  }
+  JoinWorker();
+  if (g_copyFailed.exchange(0) || g_workPath.isEmpty()) return stop();
+
+  const QString key = g_sourcePath;
+  const int mode = s.m_testMode;
+  s.m_result = LevelResult{};
+  if (LookUpLog(s, key, mode, fromLog)) {
+    s.SetProgress(100);
+  } else {
+    if (!MeasureWorkFile(s, mode)) return stop();
+    StoreInLog(s, key, mode);
+    s.SetProgress(100);
+  }
+  s.m_testRunning = 0;
+  s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
+  s.m_progressShown = 1;
+  return 1;
 }

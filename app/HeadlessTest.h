@@ -35,7 +35,22 @@ struct HeadlessReport {
   LevelResult result;
 };
 
+// The three steps of a test that every flow shares. The key in the log is the source's
+// full path. LookUpLog: true on a hit, with the result in the session (m_result, and for
+// the peak test m_levelLeft/Right and m_noClipDbLeft/Right); it remembers the row's state
+// for StoreInLog. MeasureWorkFile: the scanner or the gain engine on the work file
+// g_workPath; false when it stopped or failed. StoreInLog: writes the session's result.
+bool LookUpLog(Session& s, const QString& key, int mode, bool& hit);
+bool MeasureWorkFile(Session& s, int mode);
+void StoreInLog(Session& s, const QString& key, int mode);
+
 // The session must have a prompt that records (RecordingPrompt) or prints; the messages it
 // records for this file become `error` when the file fails.
 HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QString& path,
                                 const HeadlessOptions& options);
+
+// The Test command on the file that is open in the window: waits for its worker (pumping,
+// so a cancel or exit is seen), looks in the log, measures, writes the row. Sets and
+// clears m_testRunning. 1 when the result stands in the session, 0 when the test stopped
+// (cancel, exit, a failed worker or measurement: the message has been shown).
+int RunTestOnOpenFile(Session& s, bool& fromLog);

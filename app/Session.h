@@ -151,6 +151,7 @@ struct Session {
   int m_logAvailable = 0;
   int m_dataBaseSizeMb = 1;
   QString m_logPath;
+  int m_logRowState = 0;  // what FindRow said of the open file's row (a RowState)
 
   // --- Player and options ---
   float m_savedVolume = -1.0f;

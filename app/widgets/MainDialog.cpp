@@ -4,6 +4,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSignalBlocker>
+#include <cmath>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -26,7 +31,10 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/HeadlessTest.h"
+#include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
+#include "level/LevelDisplay.h"
 
 namespace {
 
@@ -141,6 +149,24 @@ void CBrenlowv10Dlg::BuildMenus() {
   AddCommand(help, kCmdAbout, TR("&About Tonvane..."));
 
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
+  connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
+  connect(action(kCmdTest), &QAction::triggered, this, &CBrenlowv10Dlg::OnTest);
+  connect(action(kCmdShowPercent), &QAction::triggered, this, [this] { SetShowDb(0); });
+  connect(action(kCmdShowDb), &QAction::triggered, this, [this] { SetShowDb(1); });
+  connect(action(kCmdUseDatabase), &QAction::triggered, this, [this](bool on) { m_s.m_useDatabase = on ? 1 : 0; });
+  connect(action(kCmdRepeatAll), &QAction::triggered, this, [this](bool on) {
+    m_s.m_looping = on ? 1 : 0;
+    Settings::SetInt("Looping", m_s.m_looping);
+  });
+  connect(action(kCmdBeep), &QAction::triggered, this, [this](bool on) {
+    m_s.m_beep = on ? 1 : 0;
+    Settings::SetInt("Beep", m_s.m_beep);
+  });
+  connect(action(kCmdAlwaysOnTop), &QAction::triggered, this, [this](bool on) {
+    m_s.m_alwaysOnTop = on ? 1 : 0;
+    setWindowFlag(Qt::WindowStaysOnTopHint, on);
+    this->show();
+  });
 }
 
 void CBrenlowv10Dlg::BuildToolBar() {
@@ -170,6 +196,7 @@ void CBrenlowv10Dlg::BuildToolBar() {
     m_actions[it.id] = a;
   }
   connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
+  connect(action(757), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
 }
 
 void CBrenlowv10Dlg::BuildCentral() {
@@ -187,6 +214,7 @@ void CBrenlowv10Dlg::BuildCentral() {
   outer->addLayout(fileLine);
   m_controls[kIdFileLabel] = fileLabel;
   m_controls[kIdFileCombo] = m_fileCombo;
+  connect(m_fileCombo, &QComboBox::activated, this, [this](int) { OpenByName(QString()); });
 
   // Group "Test".
   auto* testGroup = new QGroupBox(TR("Test"), central);
@@ -230,6 +258,9 @@ void CBrenlowv10Dlg::BuildCentral() {
   left->addStretch(1);
   testLayout->addLayout(left, 3);
   m_controls[kIdTestButton] = m_testButton;
+  connect(m_testButton, &QPushButton::clicked, this, &CBrenlowv10Dlg::OnTest);
+  connect(m_peakRadio, &QRadioButton::clicked, this, [this] { SetTestMode(0); });
+  connect(m_averageRadio, &QRadioButton::clicked, this, [this] { SetTestMode(1); });
   m_controls[kIdPeakRadio] = m_peakRadio;
   m_controls[kIdAverageRadio] = m_averageRadio;
 
@@ -249,6 +280,21 @@ void CBrenlowv10Dlg::BuildCentral() {
   auto* clipRight = MakeLabel(TR("Clipping"), testGroup, "clippingRight");
   clipLeft->setVisible(false);
   clipRight->setVisible(false);
+  const QString red = QStringLiteral("color: #ff0003; font-weight: bold;");  // 0x0300ff
+  clipLeft->setStyleSheet(red);
+  clipRight->setStyleSheet(red);
+  const QString labelColour = QStringLiteral("color: #1e1ecb;");  // 0xcb1e1e
+  maxLeft->setStyleSheet(labelColour);
+  maxRight->setStyleSheet(labelColour);
+  m_maxLabels = {maxLeft, maxRight};
+  m_clipLabels = {clipLeft, clipRight};
+  m_levelTexts = {MakeLabel(QString(), testGroup, "levelLeft"), MakeLabel(QString(), testGroup, "levelRight")};
+  for (QLabel* l : m_levelTexts) {
+    l->setAlignment(Qt::AlignCenter);
+    QFont f = l->font();
+    f.setBold(true);
+    l->setFont(f);
+  }
   bars->addWidget(leftTitle, 0, 0);
   bars->addWidget(rightTitle, 0, 2);
   bars->addWidget(m_leftBar, 1, 0, Qt::AlignHCenter);
@@ -258,6 +304,8 @@ void CBrenlowv10Dlg::BuildCentral() {
   bars->addWidget(maxRight, 2, 2);
   bars->addWidget(clipLeft, 3, 0);
   bars->addWidget(clipRight, 3, 2);
+  bars->addWidget(m_levelTexts[0], 4, 0);
+  bars->addWidget(m_levelTexts[1], 4, 2);
   bars->setColumnMinimumWidth(1, 90);
   testLayout->addLayout(bars, 2);
   m_controls[kIdLeftBar] = m_leftBar;
@@ -459,8 +507,148 @@ void CBrenlowv10Dlg::keyPressEvent(QKeyEvent* e) {
 }
 
 void CBrenlowv10Dlg::OpenByName(const QString& path) {
-  // Reopening the list's selection comes with the open pipeline in the window.
-  Q_UNUSED(path);
+  if (m_s.m_testRunning || g_workerBusy.load()) return;
+  QString p = path;
+  if (p.isEmpty()) {
+    const int sel = m_fileCombo->currentIndex();
+    if (sel < 0) return;
+    p = m_fileCombo->itemData(sel).toString();
+    if (p.isEmpty()) p = m_fileCombo->itemText(sel);
+  }
+  if (p.isEmpty() || p == m_s.m_fileName) return;
+  OpenPath(p);
+}
+
+void CBrenlowv10Dlg::OnFileOpen() {
+  if (m_s.m_testRunning || g_workerBusy.load()) return;
+  const QStringList filters = {
+      TR("All Files (*.*)") + " (*)",
+      TR("Wave Files (*.wav; *.wave)") + " (*.wav *.wave)",
+      TR("Mp3 Files (*.mp3; *.mpga)") + " (*.mp3 *.mpga)",
+      TR("FLAC Files (*.flac; *.fla)") + " (*.flac *.fla)",
+      TR("Ogg Files (*.ogg)") + " (*.ogg)",
+      TR("APE Files (*.ape)") + " (*.ape)",
+      TR("AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)") + " (*.m4a *.m4b *.mp4 *.m4p *.m4r *.aac)"};
+  int index = qBound(1, Settings::NumberFilter(), int(filters.size())) - 1;
+  QString selected = filters.at(index);
+  const QString folder = m_s.m_fileName.isEmpty() ? QString() : QFileInfo(m_s.m_fileName).absolutePath();
+  const QString path = QFileDialog::getOpenFileName(this, TR("Open      "), folder, filters.join(";;"), &selected);
+  const int chosen = int(filters.indexOf(selected));
+  if (chosen >= 0) Settings::SetInt("NumberFilter", chosen + 1);
+  if (path.isEmpty() || path == m_s.m_fileName) return;
+  OpenPath(path);
+}
+
+void CBrenlowv10Dlg::OpenPath(const QString& path) {
+  // The old work file goes before the new one is made.
+  JoinWorker();
+  if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
+  ClearSessionPaths();
+  for (QString& line : m_s.m_propertyLines) line.clear();
+  m_s.m_levelLeft = m_s.m_levelRight = -1.0f;
+  m_s.m_opening = 1;
+  m_s.m_previousFileName = m_s.m_fileName;
+  const int ok = OpenFileHeadless(m_s, QFileInfo(path).absoluteFilePath());
+  m_s.m_opening = 0;
+  if (!ok) {
+    m_s.m_fileName.clear();
+    setWindowTitle(tonvane::kAppTitle);
+    RenderFromSession();
+    ShowLevels();
+    return;
+  }
+  if (m_s.m_sourceKind == kKindMp3) m_s.m_testMode = 1;
+  FillFileList(QFileInfo(m_s.m_fileName).absolutePath());
+  setWindowTitle(QFileInfo(m_s.m_fileName).fileName() + " - " + tonvane::kAppTitle);
+  const unsigned ms = m_s.m_durationMs;
+  auto set = [this](const char* name, unsigned v) {
+    if (auto* l = findChild<QLabel*>(name)) l->setText(QString::asprintf("%02u", v));
+  };
+  set("totalMinutes", ms / 60000);
+  set("totalSeconds", ms / 1000 % 60);
+  set("totalHundredths", ms / 10 % 100);
+  RenderFromSession();
+  ShowLevels();
+}
+
+void CBrenlowv10Dlg::FillFileList(const QString& folder) {
+  QSignalBlocker block(m_fileCombo);
+  m_fileCombo->clear();
+  const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files, QDir::NoSort);
+  for (const QFileInfo& fi : entries)
+    if (KindOfName(fi.fileName()) >= 0) m_fileCombo->addItem(fi.fileName(), fi.absoluteFilePath());
+  // The open file stands once more at the end, by its full path, and is selected.
+  m_fileCombo->addItem(m_s.m_fileName, m_s.m_fileName);
+  m_fileCombo->setCurrentIndex(m_fileCombo->count() - 1);
+}
+
+void CBrenlowv10Dlg::SetTestMode(int mode) {
+  if (m_s.m_testMode == mode) return;
+  m_s.m_testMode = mode;
+  m_s.m_levelLeft = m_s.m_levelRight = -1.0f;
+  ShowLevels();
+}
+
+void CBrenlowv10Dlg::SetShowDb(int db) {
+  if (m_s.m_showDb != db) {
+    m_s.m_showDb = db;
+    Settings::SetInt("ShowDb", db);
+    m_s.m_levelLeft = m_s.m_levelRight = -1.0f;  // a change of scale discards the shown result
+    ShowLevels();
+  }
+  RenderFromSession();
+}
+
+void CBrenlowv10Dlg::OnTest() {
+  if (m_s.m_testRunning) {
+    m_s.m_cancelRequested = 1;  // the running test ends from inside its own loop
+    return;
+  }
+  m_testButton->setText(TR("Cancel"));
+  m_statusProgress->setValue(0);
+  m_statusProgress->setVisible(true);
+  for (int id : {757, 309, 304}) action(id)->setEnabled(false);
+  const QString savedTitle = windowTitle();
+  m_s.m_savedTitle = savedTitle;
+  m_pumpUi.onProgress = [this, savedTitle](int percent) {
+    m_statusProgress->setValue(percent);
+    setWindowTitle(QString::number(percent) + "% - " + savedTitle);
+  };
+  RenderFromSession();
+  bool fromLog = false;
+  const int ok = RunTestOnOpenFile(m_s, fromLog);
+  m_pumpUi.onProgress = [this](int percent) { m_statusProgress->setValue(percent); };
+  setWindowTitle(savedTitle);
+  m_testButton->setText(TR("Test"));
+  if (!ok) {
+    m_statusProgress->setVisible(false);
+    m_s.m_levelLeft = m_s.m_levelRight = -1.0f;
+  }
+  ShowLevels();
+  RenderFromSession();
+  if (m_s.m_exitRequested) Shutdown();
+}
+
+void CBrenlowv10Dlg::ShowLevels() {
+  const bool stereo = m_s.m_channels != 1;
+  m_rightBar->setVisible(stereo);
+  const bool shown = m_s.m_levelLeft != -1.0f;
+  const std::vector<ChannelLevelView> levels = shown ? ChannelLevels(m_s) : std::vector<ChannelLevelView>{};
+  QProgressBar* bars[2] = {m_leftBar, m_rightBar};
+  for (size_t i = 0; i < 2; ++i) {
+    const bool have = i < levels.size();
+    const ChannelLevelView v = have ? levels[i] : ChannelLevelView{};
+    const double top = m_s.m_showDb ? 120.0 : 100.0;
+    bars[i]->setValue(have ? int(std::lround(qBound(0.0, v.level, top) * 100.0 / top)) : 0);
+    const QString unit = m_s.m_showDb ? QStringLiteral(" dB") : QStringLiteral("%");
+    m_levelTexts[i]->setText(have ? QString::asprintf(m_s.m_showDb || m_s.m_testMode == 1 ? "%1.1f" : "%1.0f", v.level) + unit
+                                  : QString());
+    m_maxLabels[i]->setText(have && v.hasMax ? TR("Max Level ") + QString::asprintf("%1.1f", v.maxLevel) + unit
+                                             : QString());
+    m_clipLabels[i]->setVisible(have && v.hasVerdict && v.clipping);
+    const QString chunk = have && v.hasVerdict && v.clipping ? "#ff0003" : "#0000ff";
+    bars[i]->setStyleSheet(QStringLiteral("QProgressBar::chunk { background: %1; }").arg(chunk));
+  }
 }
 
 void CBrenlowv10Dlg::OnExit() {

@@ -102,6 +102,13 @@ class CBrenlowv10Dlg : public QMainWindow {
   void ApplyEnablingRules();
   void RenderFromSession();
   void OnExit();
+  void OnFileOpen();
+  void OpenPath(const QString& path);
+  void FillFileList(const QString& folder);
+  void OnTest();
+  void ShowLevels();
+  void SetTestMode(int mode);
+  void SetShowDb(int db);
 
   Session m_s;
   QtPrompt m_promptUi;
@@ -121,6 +128,9 @@ class CBrenlowv10Dlg : public QMainWindow {
   QProgressBar* m_leftBar = nullptr;
   QProgressBar* m_rightBar = nullptr;
   QLabel* m_scaleLabel = nullptr;
+  std::array<QLabel*, 2> m_maxLabels{};
+  std::array<QLabel*, 2> m_clipLabels{};
+  std::array<QLabel*, 2> m_levelTexts{};
   QSlider* m_seekBar = nullptr;
   QSlider* m_volumeSlider = nullptr;
   QLabel* m_statusText = nullptr;
