@@ -28,10 +28,14 @@ int ReducedRate(const CMPAFrame& f) { return int(f.m_header.bitRate / 8 / 125) *
 
 }  // namespace
 
-Mp3ReadResult ReadMp3Properties(const QString& path, Mp3Properties& out, const std::function<bool()>& pump) {
+namespace {
+
+Mp3ReadResult ReadProperties(const std::function<std::unique_ptr<CMPAFile>()>& makeFile, Mp3Properties& out,
+                             const std::function<bool()>& pump) {
   out = Mp3Properties();
   try {
-    CMPAFile file(path);
+    std::unique_ptr<CMPAFile> owned = makeFile();
+    CMPAFile& file = *owned;
     const CTagList& tags = file.GetTags();
     uint32_t index = 0;
     while (const CTag* tag = tags.GetNextTag(index)) out.tagBytes += tag->GetSize();
@@ -109,6 +113,17 @@ Mp3ReadResult ReadMp3Properties(const QString& path, Mp3Properties& out, const s
   } catch (...) {
     return Mp3ReadResult::Errors;
   }
+}
+
+}  // namespace
+
+Mp3ReadResult ReadMp3Properties(const QString& path, Mp3Properties& out, const std::function<bool()>& pump) {
+  return ReadProperties([&] { return std::make_unique<CMPAFile>(path); }, out, pump);
+}
+
+Mp3ReadResult ReadMp3Properties(std::unique_ptr<CMPAStream> stream, Mp3Properties& out,
+                                const std::function<bool()>& pump) {
+  return ReadProperties([&] { return std::make_unique<CMPAFile>(std::move(stream)); }, out, pump);
 }
 
 QString Mp3BitRateLine(int bitRate) {

@@ -2,8 +2,10 @@
 #include <QString>
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 struct Session;
+class CMPAStream;
 
 // What the MPEG reader learns of a file without decoding it.
 struct Mp3Properties {
@@ -33,6 +35,9 @@ enum class Mp3ReadResult {
 // VBR header is walked frame by frame; `pump` (may be empty) is called every few thousand
 // frames and a false return ends the walk.
 Mp3ReadResult ReadMp3Properties(const QString& path, Mp3Properties& out,
+                                const std::function<bool()>& pump = {});
+// The same over any stream (bytes in memory).
+Mp3ReadResult ReadMp3Properties(std::unique_ptr<CMPAStream> stream, Mp3Properties& out,
                                 const std::function<bool()>& pump = {});
 
 // The property lines of an MPEG file.

@@ -74,4 +74,4 @@ id3v24() {  # one text frame of 5 bytes, the footer flag set
 { id3v24; cat cbr128.mp3; } > id3v2_footer_start.mp3
 { cat cbr128.mp3; id3v24; } > id3v2_footer_end.mp3
 { id3v24; cat cbr128.mp3; id3v24; } > id3v2_both_ends.mp3
-rm -f src_mono.wav
+rm -f src_mono.wav src_stereo.wav
