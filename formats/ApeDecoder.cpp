@@ -268,13 +268,13 @@ int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info) {
     }
   }
   if (!found) return kErrInvalidInput;
-  if (junk + 6 > size) return kErrRead;
+  if (junk + 6 > size) return kErrInvalidInput;
   info.junkBytes = junk;
   info.version = Le16(data + junk + 4);
   if (info.version < kMinVersion) return kErrUnsupportedVersion;
 
   const uint8_t* d = data + junk;
-  if (junk + 52 > size) return kErrRead;
+  if (junk + 52 > size) return kErrInvalidInput;
   const uint32_t descriptorBytes = Le32(d + 8);
   const uint32_t headerBytes = Le32(d + 12);
   const uint32_t seekTableBytes = Le32(d + 16);
@@ -284,7 +284,7 @@ int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info) {
   if (descriptorBytes < 52 || headerBytes < 24) return kErrInvalidInput;
 
   const uint64_t headerAt = junk + descriptorBytes;
-  if (headerAt + 24 > size) return kErrRead;
+  if (headerAt + 24 > size) return kErrInvalidInput;
   const uint8_t* h = data + headerAt;
   info.compressionLevel = Le16(h + 0);
   info.formatFlags = Le16(h + 2);
@@ -306,7 +306,7 @@ int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info) {
   const uint64_t seekAt = headerAt + headerBytes;
   const uint64_t seekEntries = seekTableBytes / 4;
   if (seekEntries < info.totalFrames) return kErrInvalidInput;
-  if (seekAt + uint64_t(info.totalFrames) * 4 > size) return kErrRead;
+  if (seekAt + uint64_t(info.totalFrames) * 4 > size) return kErrInvalidInput;
   info.frameDataStart = seekAt + seekTableBytes + info.wavHeaderBytes;
   info.frameDataEnd = info.frameDataStart + frameDataBytes;
   info.totalBlocks = info.totalFrames == 0

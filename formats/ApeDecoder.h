@@ -88,7 +88,7 @@ struct StreamInfo {
 };
 
 // Reads descriptor, header and seek table from the image of a whole file. Returns kOk, or
-// kErrInvalidInput / kErrUnsupportedVersion / kErrRead (header cut short).
+// kErrInvalidInput (also for a header cut short) or kErrUnsupportedVersion.
 int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info);
 
 class Decoder {

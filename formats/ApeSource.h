@@ -1,7 +1,18 @@
 #pragma once
+#include <QString>
+
 struct Session;
 
-// Reads the header of the source g_sourcePath (named by m_fileName), fills SourceFormat and
-// property lines 1 to 4, and starts the worker that makes the work file g_workPath.
+// Reads the header of the Monkey's Audio file m_fileName, fills SourceFormat and property
+// lines 1 to 4, and, unless m_noWorker is set, starts the worker that decodes g_sourcePath
+// into the work file g_workPath. Only 1 or 2 channels of 8, 16 or 24 bits are opened.
 // Returns 1 on success; otherwise it has shown its own message.
 int OpenApe(Session& s);
+
+// The worker: decodes g_sourcePath into g_workPath in blocks of 1024 sample frames. On any
+// failure it shows its message, sets g_copyFailed and returns 1; 0 on success.
+int ApeWorkerBody(Session& s);
+
+// Texts of a file the decoder refuses at open, and of a damaged or cut stream.
+QString ApeOpenFailureText(const QString& path, int error);
+QString ApeDecodeErrorText(const QString& path, int error);
