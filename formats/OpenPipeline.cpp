@@ -152,7 +152,10 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
 
   s.m_fileNotOpened = 0;
   if (CallReader(s) != 1) {
+    // The reader's status ("  Test is stopped") stays for the person to read.
+    const QString status = s.m_statusText;
     ClearFileDisplay(s);
+    s.m_statusText = status;
     if (s.m_sourceKind != kKindFlac) CloseWorkFile(s);
     ClearSessionPaths();
     s.m_opening = 0;
