@@ -5,6 +5,7 @@
 #include <QFile>
 #include <cerrno>
 #include <cmath>
+#include <memory>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -61,24 +62,43 @@ static int OggWorkerBody(Session& s) {
   }
 
   // Chained links are read on as one stream; a hole or a bad link ends the decoding and
-  // the work file keeps what was written.
-  char buffer[4096];
+  // the work file keeps what was written. Reads go 4096 bytes at a time into a larger
+  // buffer, which is written when full.
+  constexpr size_t kRead = 4096;
+  constexpr size_t kBuffer = 16 * kRead;
+  std::unique_ptr<char[]> buffer(new char[kBuffer]);
+  size_t fill = 0;
+  auto flush = [&]() {
+    const bool ok = fill == 0 || out.Write(buffer.get(), fill);
+    fill = 0;
+    return ok;
+  };
   int link = 0;
   for (;;) {
-    const long n = ov_read(&vf, buffer, int(sizeof buffer), 0, 2, 1, &link);
+    const long n = ov_read(&vf, buffer.get() + fill, int(kRead), 0, 2, 1, &link);
     if (n == 0) break;
     if (n == OV_HOLE || n == OV_EBADLINK || n == OV_EINVAL || n < 0) {
+      const bool written = flush();
       out.Close();
-      s.m_prompt.Message(TR("Sorry, but an error of opening has occurred decoding stream."), PromptIcon::Error);
+      s.m_prompt.Message(written ? TR("Sorry, but an error of opening has occurred decoding stream.")
+                                 : WorkWriteFailedText(work),
+                         PromptIcon::Error);
       ov_clear(&vf);
       return 1;
     }
-    if (!out.Write(buffer, size_t(n))) {
+    fill += size_t(n);
+    if (fill + kRead > kBuffer && !flush()) {
       out.Close();
       s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
       ov_clear(&vf);
       return 1;
     }
+  }
+  if (!flush()) {
+    out.Close();
+    s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
+    ov_clear(&vf);
+    return 1;
   }
 
   // The stream's true length may differ from what its last granule position promised.
