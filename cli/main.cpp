@@ -15,6 +15,7 @@
 #include "app/Session.h"
 #include "app/Settings.h"
 #include "formats/WorkFile.h"
+#include "log/TestLog.h"
 
 namespace {
 
@@ -168,12 +169,18 @@ int main(int argc, char** argv) {
   s.m_prompt.SetUi(&prompt);
   s.m_pump = &pump;
   s.LoadSettings();
-  if (p.isSet(logFile)) s.m_logPath = QDir::current().absoluteFilePath(p.value(logFile));
 
   HeadlessOptions o;
   o.testMode = p.isSet(peak) ? 0 : p.isSet(average) ? 1 : -1;
   o.showDb = p.isSet(db) ? 1 : 0;
   o.useLog = !p.isSet(noLog);
+  // The log is settled as at the program's start: created when missing, emptied above the cap.
+  if (o.testMode >= 0 && o.useLog) {
+    if (p.isSet(logFile))
+      CheckLogAt(s, QDir::current().absoluteFilePath(p.value(logFile)));
+    else
+      CheckLogAtStart(s);
+  }
 
   QTextStream out(stdout);
   int failures = 0;
