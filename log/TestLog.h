@@ -64,7 +64,15 @@ class TestLog {
   int64_t FoundRowOffset() const { return m_rowOffset; }
 
  private:
+  struct RecordKey {
+    const char* bytes;    // a plain line's first cell, as it stands
+    qsizetype size;
+    const QString* text;  // or the cell as the CSV engine read it
+  };
+  template <class Visit>
+  bool WalkRecords(Visit& visit);
   bool BuildIndex();
+  bool ScanFor(const QString& path, int64_t& found);
   bool LoadRow(int64_t offset, const QString& path);
   bool ReadGroups(LevelResult& v, bool gain, bool wav, bool wavPik);
   bool AppendRecord(const QString& line, const QString& path);
@@ -78,8 +86,10 @@ class TestLog {
   std::unique_ptr<COXCsvFile> m_csv;
   // First record of each key path (byte offset), built once per open.
   bool m_indexed = false;
+  int m_lookups = 0;
   QHash<QString, int64_t> m_index;
-  // The row found last.
+  // The path FindRow missed last, and the row it found last.
+  QString m_missPath;
   QString m_rowPath;
   int64_t m_rowOffset = -1;
   int64_t m_rowBytes = 0;  // the row with its line end

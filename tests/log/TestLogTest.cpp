@@ -354,6 +354,18 @@ TEST(TestLogFile, HandEditedLogsReadWithADefinedOutcome) {
   EXPECT_EQ(v.WavLeft, 11.0f);
   EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
   EXPECT_EQ(v.WavRight, 22.0f);
+  {
+    // A batch keeps the log open: the second look-up goes through the index of every key,
+    // which must agree with the walk.
+    TestLog l(*t.s);
+    ASSERT_TRUE(l.OpenLog());
+    EXPECT_EQ(l.FindRow(b), RowState::Fresh);
+    const int64_t bOffset = l.FoundRowOffset();
+    EXPECT_EQ(l.FindRow(a), RowState::Fresh);
+    EXPECT_EQ(l.FindRow(b), RowState::Fresh);
+    EXPECT_EQ(l.FoundRowOffset(), bOffset);
+    EXPECT_EQ(l.FindRow(t.Path("c.wav")), RowState::Miss);
+  }
   EXPECT_EQ(ReadFile(log), edited);
 
   // A log that ends in a row cut short: the cut row is no record, and a new record starts
