@@ -63,6 +63,9 @@ struct Session {
   int PumpMessages();
   // Sets m_progressPercent and tells the front end.
   void SetProgress(int percent);
+  // Ends a running test and puts the window's state back (enabled commands, title,
+  // progress, status text); also serves the batch. A second call in a row does no harm.
+  void StopTest();
 
   // Seams.
   Prompter m_prompt;

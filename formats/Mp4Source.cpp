@@ -1,9 +1,76 @@
 #include "formats/Mp4Source.h"
 
+#include <unistd.h>
+
+#include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
+#include "formats/AacDecode.h"
+#include "formats/AacFile.h"
+#include "formats/WorkFile.h"
 
 int OpenMp4(Session& s) {
-  s.m_prompt.Message(TR("Sorry, but this kind of file cannot be opened yet."));
-  return 0;
+  s.m_levelLeft = s.m_levelRight = -1.0f;
+
+  int type, isMp4, mpegVersion, channels, sampleRate, bits, bitRate;
+  uint32_t durationMs;
+  {
+    AACFile probe(s, s.m_fileName, 1);
+    type = probe.type();
+    isMp4 = probe.isMp4();
+    mpegVersion = probe.mpegVersion();
+    channels = probe.channels();
+    sampleRate = probe.sampleRate();
+    bits = probe.bits();
+    bitRate = probe.bitRate();
+    durationMs = probe.durationMs();
+  }
+
+  s.m_propertyLines[0] = TR("  Bit Rate               ") + QString::number((int64_t(bitRate) + 500) / 1000) + TR(" kbps");
+  s.m_propertyLines[1] = TR("  Channels            ") + QString::number(channels);
+  s.m_propertyLines[2] = TR("  Sample Rate       ") + QString::number(sampleRate) + TR(" Hz");
+  if (durationMs == 0) return 0;
+
+  if (type == AACFile::kTypeAac) {
+    s.m_propertyLines[3] = mpegVersion == 0 ? TR("  Audio Format      MPEG-4 AAC LC") : TR("  Audio Format      MPEG-2 AAC");
+    s.m_sourceKind = kKindAac;
+    bits = 16;  // the decoder's default output
+  } else if (type == AACFile::kTypeAlac) {
+    s.m_propertyLines[3] = TR("  Audio Format      MPEG-4 ALAC");
+    s.m_sourceKind = kKindAlac;
+  } else {
+    return 0;
+  }
+  s.m_channels = channels;
+  s.m_sampleRate = sampleRate;
+  s.m_bits = bits;
+  s.m_bitRate = bitRate;
+  s.m_durationMs = durationMs;
+  s.m_scaleLabel = TR("100% = 89 dB");
+
+  if (g_workFile >= 0) {
+    ::close(g_workFile);
+    g_workFile = -1;
+  }
+  const QString work = g_workPath;
+  if (!s.m_noWorker && !CreateEmptyWorkFile(work, g_sourcePath)) {
+    s.m_prompt.Message(CannotBeCreatedText(work), PromptIcon::Error);
+    return 0;
+  }
+  s.m_isMp4Container = isMp4;
+  if (channels > 2) {
+    if (!s.m_noWorker) DeleteWorkFile(work);
+    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + s.m_fileName +
+                           TR(" has unsupported by the program a format of sound data.") +
+                           TR(" The file has an amount of channels more than 2."),
+                       PromptIcon::Error);
+    return 0;
+  }
+  if (s.m_noWorker) return 1;
+
+  Session* session = &s;
+  if (type == AACFile::kTypeAlac) StartWorker([session] { return DecodeAlac(*session); });
+  else if (isMp4) StartWorker([session] { return DecodeMp4Aac(*session); });
+  else StartWorker([session] { return DecodeRawAac(*session); });
+  return 1;
 }
