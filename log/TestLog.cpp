@@ -454,7 +454,9 @@ bool TestLog::WriteRow(const QString& path, LogTest test, RowState outcome, cons
 
   const bool mp3 = m_s.m_sourceKind == kKindMp3;
   LevelResult row;  // the no-result marks
-  if (outcome == RowState::Fresh && m_rowFresh && m_rowPath == path) row = m_carried;
+  // After a Partial the other groups stay as they were: as ReadResult carried them in this
+  // open, or, when the row was read in an earlier open, as the caller hands them back.
+  if (outcome == RowState::Fresh) row = m_rowFresh && m_rowPath == path ? m_carried : values;
   switch (test) {
     case LogTest::Gain:
       row.GainLeft = values.GainLeft;

@@ -48,8 +48,9 @@ class TestLog {
   // values (kept for the WriteRow that follows). MP3 rows (m_sourceKind) are always a Hit.
   ReadOutcome ReadResult(LogTest test, LevelResult& values);
   // After a measurement: writes this test's group of `values` for the path. The other
-  // groups are carried over after a Partial (outcome Fresh), else marked absent. False when
-  // nothing could be written (a message has been shown for a file error).
+  // groups are carried over after a Partial (outcome Fresh): from ReadResult in this open,
+  // else from `values`; after Miss or Stale they are marked absent. False when nothing
+  // could be written (a message has been shown for a file error).
   bool WriteRow(const QString& path, LogTest test, RowState outcome, const LevelResult& values);
   void CloseLog();
   bool IsOpen() const { return m_open; }
