@@ -83,7 +83,9 @@ struct StreamInfo {
   int BlockAlign() const { return (bits / 8) * channels; }
   uint64_t WavDataBytes() const { return totalBlocks * uint64_t(BlockAlign()); }
   int64_t LengthMs() const {
-    return sampleRate > 0 ? int64_t(double(totalBlocks) * 1000.0 / double(sampleRate)) : 0;
+    if (sampleRate <= 0) return 0;
+    const double ms = double(totalBlocks) * 1000.0 / double(sampleRate);
+    return ms < 9.0e18 ? int64_t(ms) : INT64_MAX;
   }
 };
 
