@@ -1,5 +1,6 @@
 #include "app/Session.h"
 
+#include "app/Globals.h"
 #include "app/Settings.h"
 
 Session::Session() = default;
@@ -26,4 +27,19 @@ int Session::PumpMessages() {
 void Session::SetProgress(int percent) {
   m_progressPercent = percent;
   if (m_pump) m_pump->ProgressChanged(percent);
+}
+
+void Session::StopTest() {
+  if (!m_batchActive) {
+    m_uiEnabledA = 1;
+    m_uiEnabledB = 1;
+    m_canPlay = 1;
+    if (!m_savedTitle.isEmpty()) m_title = m_savedTitle;
+    SetProgress(0);
+    g_copyFailed = 0;
+    m_statusText.clear();
+  }
+  m_testRunning = 0;
+  // The batch ends its run from its own loop once it sees the flag fall.
+  m_batchActive = 0;
 }

@@ -1,8 +1,459 @@
 #include "level/GainEngine.h"
 
+#include <QFile>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <thread>
+#include <vector>
+
+#include "app/Globals.h"
 #include "app/Session.h"
+#include "formats/WorkFile.h"
+#include "level/ReplayGain.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+}
+
+namespace {
+
+// The running analysis's steering, as beChangePause and beChangexitAnaliz leave it. One
+// analysis at a time: both calls arrive on the analysing thread, from within the poll.
+struct Steering {
+  int running = 0;
+  int paused = 0;
+  int exit = 0;
+};
+Steering g_steering;
+
+// Pacing: the poll comes every 16 ms of work, or sooner after 64 Ki frames; samples are
+// read and converted in chunks.
+constexpr auto kPollInterval = std::chrono::milliseconds(16);
+constexpr uint64_t kPollFrames = 65536;
+constexpr auto kPausedSleep = std::chrono::milliseconds(10);
+constexpr size_t kChunkFrames = 4096;
+constexpr uint64_t kReadWindow = 16u << 20;
+
+// One analysis from its call to its return: polls, progress steps, steering.
+class AnalysisRun {
+ public:
+  AnalysisRun(Session& dialog, IBatchProgressTarget* batchProgress, int progressCount, int batch)
+      : m_dialog(dialog), m_batchProgress(batchProgress), m_batch(batch != 0) {
+    // A single test has made `progressCount` of its 100 steps already; a batch file is
+    // worth `progressCount` steps on the batch bar.
+    m_steps = m_batch ? std::max(progressCount, 0) : std::clamp(100 - progressCount, 0, 100);
+    g_steering = Steering{1, 0, 0};
+    m_lastPoll = std::chrono::steady_clock::now();
+  }
+  ~AnalysisRun() { g_steering = Steering{}; }
+
+  // One poll; while the analysis is paused keeps polling. False once it is to stop.
+  bool Poll() {
+    OnGainPoll(m_dialog);
+    while (g_steering.paused && !g_steering.exit) {
+      std::this_thread::sleep_for(kPausedSleep);
+      OnGainPoll(m_dialog);
+    }
+    m_framesSincePoll = 0;
+    m_lastPoll = std::chrono::steady_clock::now();
+    return !g_steering.exit;
+  }
+
+  // After a chunk of `frames` frames, with `fraction` of the work done.
+  bool Tick(uint64_t frames, double fraction) {
+    Advance(fraction);
+    m_framesSincePoll += frames;
+    if (m_framesSincePoll >= kPollFrames || std::chrono::steady_clock::now() - m_lastPoll >= kPollInterval)
+      return Poll();
+    return true;
+  }
+
+  // The steps not yet made: the bar of a single test ends at 100, never past it.
+  void Complete() { Advance(1.0); }
+
+ private:
+  void Advance(double fraction) {
+    fraction = std::clamp(fraction, 0.0, 1.0);
+    const int due = int(double(m_steps) * fraction);
+    while (m_sent < due) {
+      ++m_sent;
+      if (m_batch) {
+        if (m_batchProgress) m_batchProgress->Send(kMsgBatchProgress, 1);
+      } else {
+        OnGainStep(m_dialog);
+      }
+    }
+  }
+
+  Session& m_dialog;
+  IBatchProgressTarget* m_batchProgress;
+  bool m_batch;
+  int m_steps = 0;
+  int m_sent = 0;
+  uint64_t m_framesSincePoll = 0;
+  std::chrono::steady_clock::time_point m_lastPoll;
+};
+
+uint32_t Le32(const uint8_t* p) {
+  return uint32_t(p[0]) | uint32_t(p[1]) << 8 | uint32_t(p[2]) << 16 | uint32_t(p[3]) << 24;
+}
+
+// The data chunk of a RIFF WAVE file found as the test finds it: a search for "data" in
+// the first bytes, up to the RIFF size at byte 4 and never past the file's end.
+bool FindDataIn(MappedFile& f, uint32_t& dataOffset, uint32_t& dataSize) {
+  const uint64_t head = std::min<uint64_t>(f.Size(), uint64_t(kAllocGranularity) * 10);
+  const uint8_t* view = head >= 8 ? f.Map(0, head) : nullptr;
+  if (!view) return false;
+  const uint64_t limit = std::min<uint64_t>(Le32(view + 4), f.Size());
+  const bool found = FindDataChunk(view, f.ViewSize(), limit, dataOffset, dataSize);
+  f.Unmap();
+  return found;
+}
+
+// The sample rate from the "fmt " chunk, walking the chunks of the file's first bytes.
+int SampleRateOf(MappedFile& f) {
+  const uint64_t head = std::min<uint64_t>(f.Size(), uint64_t(kAllocGranularity) * 16);
+  const uint8_t* view = head >= 12 ? f.Map(0, head) : nullptr;
+  int rate = 0;
+  if (view && std::memcmp(view, "RIFF", 4) == 0 && std::memcmp(view + 8, "WAVE", 4) == 0) {
+    uint64_t pos = 12;
+    while (pos + 8 <= head) {
+      const uint32_t size = Le32(view + pos + 4);
+      if (std::memcmp(view + pos, "fmt ", 4) == 0) {
+        if (size >= 16 && pos + 16 <= head) rate = int(std::min<uint32_t>(Le32(view + pos + 12), 0x7fffffff));
+        break;
+      }
+      pos += 8 + uint64_t(size) + (size & 1);
+    }
+  }
+  f.Unmap();
+  return rate;
+}
+
+enum class Sample { U8, S16, S24, S32, F32 };
+
+// A float sample (full scale +-1) on the 16-bit scale. NaN would poison the filter, and
+// nothing real lies beyond 120 dB over full scale.
+double FloatToSixteenBitScale(double v) { return (v == v ? std::clamp(v, -1e6, 1e6) : 0.0) * 32768.0; }
+
+// `frames` frames of `channels` samples to the first `used` channels on the 16-bit scale.
+void ToSixteenBitScale(const uint8_t* p, size_t frames, int channels, int used, Sample kind, double* out) {
+  switch (kind) {
+    case Sample::U8:
+      for (size_t i = 0; i < frames; ++i, p += channels)
+        for (int c = 0; c < used; ++c) *out++ = (int(p[c]) - 128) * 256.0;
+      break;
+    case Sample::S16:
+      for (size_t i = 0; i < frames; ++i, p += 2 * channels)
+        for (int c = 0; c < used; ++c) {
+          int16_t v;
+          std::memcpy(&v, p + 2 * c, 2);
+          *out++ = v;
+        }
+      break;
+    case Sample::S24:
+      for (size_t i = 0; i < frames; ++i, p += 3 * channels)
+        for (int c = 0; c < used; ++c) {
+          const uint8_t* q = p + 3 * c;
+          const int32_t v = int32_t(uint32_t(q[0]) << 8 | uint32_t(q[1]) << 16 | uint32_t(q[2]) << 24) >> 8;
+          *out++ = v * (1.0 / 256.0);
+        }
+      break;
+    case Sample::S32:
+      for (size_t i = 0; i < frames; ++i, p += 4 * channels)
+        for (int c = 0; c < used; ++c) {
+          int32_t v;
+          std::memcpy(&v, p + 4 * c, 4);
+          *out++ = v * (1.0 / 65536.0);
+        }
+      break;
+    case Sample::F32:
+      for (size_t i = 0; i < frames; ++i, p += 4 * channels)
+        for (int c = 0; c < used; ++c) {
+          float v;
+          std::memcpy(&v, p + 4 * c, 4);
+          *out++ = FloatToSixteenBitScale(v);
+        }
+      break;
+  }
+}
+
+// g and n of a channel from the analysis on the 16-bit scale, for samples of `bits` bits.
+void ChannelFigures(const ReplayGainAnalyser& an, int channel, int bits, float& gain, float& noClipping) {
+  const double shift = 20.0 * std::log10(2.0) * (bits - 16);
+  gain = float(an.Gain(channel) - shift);
+  const double peak = an.Peak(channel);
+  noClipping = peak > 0 ? float(20.0 * std::log10(peak / 32768.0)) : 0.0f;
+}
+
+void Figures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
+             float& noClippingRight) {
+  ChannelFigures(an, 0, bits, gainLeft, noClippingLeft);
+  if (an.Channels() == 2) {
+    ChannelFigures(an, 1, bits, gainRight, noClippingRight);
+  } else {
+    gainRight = gainLeft;
+    noClippingRight = noClippingLeft;
+  }
+}
+
+// The MPEG decoder's objects, released on every way out.
+struct Decoding {
+  AVFormatContext* format = nullptr;
+  AVCodecContext* codec = nullptr;
+  AVPacket* packet = nullptr;
+  AVFrame* frame = nullptr;
+  ~Decoding() {
+    av_frame_free(&frame);
+    av_packet_free(&packet);
+    avcodec_free_context(&codec);
+    avformat_close_input(&format);
+  }
+};
+
+// A decoded frame's first `used` channels, interleaved, on the 16-bit scale.
+bool FrameToSixteenBitScale(const AVFrame* f, int used, std::vector<double>& out) {
+  const int n = f->nb_samples;
+  const int channels = f->ch_layout.nb_channels;
+  const auto fmt = AVSampleFormat(f->format);
+  const AVSampleFormat packed = av_get_packed_sample_fmt(fmt);
+  const bool planar = av_sample_fmt_is_planar(fmt);
+  out.resize(size_t(n) * used);
+  for (int c = 0; c < used; ++c) {
+    const uint8_t* base = f->extended_data[planar ? c : 0];
+    const int stride = planar ? 1 : channels;
+    const int first = planar ? 0 : c;
+    double* o = out.data() + c;
+    for (int i = 0; i < n; ++i, o += used) {
+      const int k = first + i * stride;
+      switch (packed) {
+        case AV_SAMPLE_FMT_FLT: *o = FloatToSixteenBitScale(reinterpret_cast<const float*>(base)[k]); break;
+        case AV_SAMPLE_FMT_DBL: *o = FloatToSixteenBitScale(reinterpret_cast<const double*>(base)[k]); break;
+        case AV_SAMPLE_FMT_S16: *o = reinterpret_cast<const int16_t*>(base)[k]; break;
+        case AV_SAMPLE_FMT_S32: *o = reinterpret_cast<const int32_t*>(base)[k] * (1.0 / 65536.0); break;
+        case AV_SAMPLE_FMT_U8: *o = (int(base[k]) - 128) * 256.0; break;
+        default: return false;
+      }
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+void beChangePause() {
+  if (g_steering.running) g_steering.paused = !g_steering.paused;
+}
+
+void beChangexitAnaliz() {
+  if (g_steering.running) g_steering.exit = 1;
+}
+
+int OnGainPoll(Session& s) {
+  const int go = s.PumpMessages();
+  if (go == 0 || s.m_exitRequested) {
+    beChangexitAnaliz();
+    s.m_pauseToggle = 0;
+    s.m_testPaused = 0;
+    s.StopTest();
+  } else if (s.m_pauseToggle) {
+    beChangePause();
+    s.m_pauseToggle = 0;
+    s.m_testPaused = 0;
+  }
+  return 0;
+}
+
+int OnGainStep(Session& s) {
+  const int pos = std::min(100, s.m_progressPercent + 1);
+  s.SetProgress(pos);
+  if (!s.m_savedTitle.isEmpty()) s.m_title = QString::number(pos) + "% - " + s.m_savedTitle;
+  return 0;
+}
+
+int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgressTarget* batchProgress,
+        int channels, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
+        float& noClippingRight, int& progressCount, int formatTag, int batch) {
+  (void)windowedMapping;
+  Sample kind;
+  switch (bits) {
+    case 8: kind = Sample::U8; break;
+    case 16: kind = Sample::S16; break;
+    case 24: kind = Sample::S24; break;
+    case 32: kind = formatTag == 3 ? Sample::F32 : Sample::S32; break;
+    default: return kGainCannotAnalyse;
+  }
+  if (channels < 1 || channels > 64) return kGainCannotAnalyse;
+  const int used = std::min(channels, 2);
+  const uint64_t frameBytes = uint64_t(channels) * (bits / 8);
+
+  MappedFile file;
+  if (!file.Open(path)) return kGainCannotAnalyse;
+  const int rate = SampleRateOf(file);
+  if (rate <= 0) return kGainCannotAnalyse;
+  uint32_t dataOffset = 0, dataSize = 0;
+  if (!batch && dialog.m_dataSize != 0 && path == g_workPath) {
+    dataOffset = dialog.m_dataOffset;
+    dataSize = dialog.m_dataSize;
+  } else if (!FindDataIn(file, dataOffset, dataSize)) {
+    return kGainCannotAnalyse;
+  }
+  if (dataOffset >= file.Size()) return kGainCannotAnalyse;
+  const uint64_t frames = std::min<uint64_t>(dataSize, file.Size() - dataOffset) / frameBytes;
+  if (frames == 0) return kGainCannotAnalyse;
+
+  ReplayGainAnalyser an;
+  if (!an.Init(rate, used)) return kGainCannotAnalyse;
+  AnalysisRun run(dialog, batchProgress, progressCount, batch);
+  if (!run.Poll()) return kGainStopped;
+
+  std::vector<double> buffer(kChunkFrames * used);
+  uint64_t done = 0;
+  while (done < frames) {
+    const uint64_t pos = dataOffset + done * frameBytes;
+    const uint64_t mapStart = pos - pos % kAllocGranularity;
+    const uint64_t want = std::min<uint64_t>(kReadWindow, (frames - done) * frameBytes);
+    const uint8_t* view = file.Map(mapStart, pos - mapStart + want);
+    if (!view) return kGainCannotAnalyse;
+    uint64_t avail = std::min<uint64_t>((file.ViewSize() - (pos - mapStart)) / frameBytes, frames - done);
+    if (avail == 0) return kGainCannotAnalyse;
+    const uint8_t* p = view + (pos - mapStart);
+    while (avail > 0) {
+      const size_t n = size_t(std::min<uint64_t>(avail, kChunkFrames));
+      ToSixteenBitScale(p, n, channels, used, kind, buffer.data());
+      an.Process(buffer.data(), n);
+      g_sampleBytesRead += n * frameBytes;
+      p += n * frameBytes;
+      avail -= n;
+      done += n;
+      if (!run.Tick(n, double(done) / double(frames))) return kGainStopped;
+    }
+  }
+  file.Close();
+  an.Finish();
+  if (!run.Poll()) return kGainStopped;
+  run.Complete();
+  Figures(an, kind == Sample::F32 ? 32 : bits, gainLeft, gainRight, noClippingLeft, noClippingRight);
+  return kGainOk;
+}
+
+int beGetRadioGain(const QString& path, Session& dialog, IBatchProgressTarget* batchProgress,
+                   float& gainLeft, float& gainRight, float& noClippingLeft, float& noClippingRight,
+                   int& progressCount, int batch, int driveType) {
+  (void)driveType;
+  Decoding d;
+  const QByteArray name = QFile::encodeName(path);
+  if (avformat_open_input(&d.format, name.constData(), nullptr, nullptr) < 0) return kGainCannotAnalyse;
+  // The first MPEG audio stream. Rate and channels come from the frames themselves, so
+  // no frames are decoded ahead to probe them.
+  int stream = -1;
+  for (unsigned i = 0; i < d.format->nb_streams && stream < 0; ++i) {
+    const AVCodecID id = d.format->streams[i]->codecpar->codec_id;
+    if (id == AV_CODEC_ID_MP3 || id == AV_CODEC_ID_MP2 || id == AV_CODEC_ID_MP1) stream = int(i);
+  }
+  if (stream < 0) return kGainCannotAnalyse;
+  const AVStream* st = d.format->streams[stream];
+  const AVCodec* codec = avcodec_find_decoder(st->codecpar->codec_id);
+  if (!codec) return kGainCannotAnalyse;
+  d.codec = avcodec_alloc_context3(codec);
+  d.packet = av_packet_alloc();
+  d.frame = av_frame_alloc();
+  if (!d.codec || !d.packet || !d.frame) return kGainCannotAnalyse;
+  if (avcodec_parameters_to_context(d.codec, st->codecpar) < 0) return kGainCannotAnalyse;
+  d.codec->pkt_timebase = st->time_base;
+  if (avcodec_open2(d.codec, codec, nullptr) < 0) return kGainCannotAnalyse;
+  const int64_t total = d.format->pb ? avio_size(d.format->pb) : -1;
+
+  ReplayGainAnalyser an;
+  int rate = 0, used = 0;
+  std::vector<double> buffer;
+  AnalysisRun run(dialog, batchProgress, progressCount, batch);
+  if (!run.Poll()) return kGainStopped;
+
+  // Takes the frames the decoder has ready. The demuxer's gapless trimming (encoder delay
+  // and padding from the LAME tag) reaches the decoder as side data and is applied there.
+  auto drain = [&]() -> int {
+    for (;;) {
+      const int rc = avcodec_receive_frame(d.codec, d.frame);
+      if (rc < 0) return 1;  // needs more input, the end, or a damaged frame skipped
+      const AVFrame* f = d.frame;
+      const int channels = f->ch_layout.nb_channels;
+      const int samples = std::max(f->nb_samples, 0);
+      if (samples > 0 && channels > 0) {
+        if (!rate) {
+          rate = f->sample_rate;
+          used = std::min(channels, 2);
+          if (!an.Init(rate, used)) return -2;
+        }
+        // A change of rate or channels within the stream is not followed.
+        if (f->sample_rate == rate && std::min(channels, 2) == used) {
+          if (!FrameToSixteenBitScale(f, used, buffer)) return -2;
+          an.Process(buffer.data(), size_t(samples));
+          g_sampleBytesRead += uint64_t(samples) * channels * av_get_bytes_per_sample(AVSampleFormat(f->format));
+        }
+      }
+      av_frame_unref(d.frame);
+      const int64_t pos = d.format->pb ? avio_tell(d.format->pb) : 0;
+      const double fraction = total > 0 ? double(pos) / double(total) : 0.0;
+      if (!run.Tick(uint64_t(samples), fraction)) return -6;
+    }
+  };
+
+  for (;;) {
+    const int rc = av_read_frame(d.format, d.packet);
+    if (rc < 0) break;  // the end, or a read error: what was decoded counts
+    if (d.packet->stream_index == stream) {
+      const int sent = avcodec_send_packet(d.codec, d.packet);
+      av_packet_unref(d.packet);
+      if (sent < 0 && sent != AVERROR(EAGAIN)) continue;
+      const int r = drain();
+      if (r == -6) return kGainStopped;
+      if (r == -2) return kGainCannotAnalyse;
+    } else {
+      av_packet_unref(d.packet);
+    }
+  }
+  avcodec_send_packet(d.codec, nullptr);
+  const int r = drain();
+  if (r == -6) return kGainStopped;
+  if (r == -2 || an.Frames() == 0) return kGainCannotAnalyse;
+
+  an.Finish();
+  if (!run.Poll()) return kGainStopped;
+  run.Complete();
+  Figures(an, 16, gainLeft, gainRight, noClippingLeft, noClippingRight);
+  return kGainOk;
+}
 
 int MeasureAverage(Session& s) {
-  (void)s;
-  return kGainCannotAnalyse;
+  if (g_workPath.isEmpty()) return kGainCannotAnalyse;
+  float gainLeft = 0, gainRight = 0, noClippingLeft = 0, noClippingRight = 0;
+  int rc;
+  bool stereo;
+  if (s.m_sourceKind == kKindMp3) {
+    rc = beGetRadioGain(g_workPath, s, nullptr, gainLeft, gainRight, noClippingLeft, noClippingRight,
+                        s.m_progressPercent, 0, s.m_driveType);
+    stereo = s.m_mpegMode != 3;
+  } else {
+    if (s.m_dataSize == 0) {
+      MappedFile file;
+      if (!file.Open(g_workPath) || !FindDataIn(file, s.m_dataOffset, s.m_dataSize)) return kGainCannotAnalyse;
+    }
+    rc = RMS(g_workPath, s.m_windowedMapping, s, nullptr, s.m_channels, s.m_bits, gainLeft, gainRight,
+             noClippingLeft, noClippingRight, s.m_progressPercent, s.m_formatTag, 0);
+    stereo = s.m_channels == 2;
+  }
+  if (rc == kGainCannotAnalyse || rc == kGainStopped) return rc;
+  s.m_result.GainLeft = gainLeft;
+  s.m_result.NoClippingLeft = noClippingLeft;
+  s.m_noClippingLeft = noClippingLeft;
+  if (stereo) {
+    s.m_result.GainRight = gainRight;
+    s.m_result.NoClippingRight = noClippingRight;
+    s.m_noClippingRight = noClippingRight;
+  }
+  return kGainOk;
 }

@@ -335,11 +335,14 @@ namespace {
 constexpr uint64_t kPumpFrames = 64 * 1024;
 
 // A view at any offset: mmap wants page-aligned offsets, G need not be one in tests.
-const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t length) {
+// `length` becomes what the view really holds from `offset`.
+const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t& length) {
   static const uint64_t page = uint64_t(::sysconf(_SC_PAGESIZE));
   const uint64_t start = offset / page * page;
   const uint8_t* v = f.Map(start, length + (offset - start));
-  return v ? v + (offset - start) : nullptr;
+  if (!v) return nullptr;
+  length = f.ViewSize() - (offset - start);
+  return v + (offset - start);
 }
 
 class Scan {
@@ -473,11 +476,12 @@ int ScanPeakLevels(Session& s) {
   PeakPass pass;
   for (int index = 0; plan.Next(pass); ++index) {
     if (!pass.mapped) break;
-    const uint8_t* view = MapAt(file, pass.mapOffset, pass.mapLength);
+    uint64_t viewLength = pass.mapLength;
+    const uint8_t* view = MapAt(file, pass.mapOffset, viewLength);
     if (!view) return 1;
     s.m_mappedView = view;
     // The frames of this pass, cut to what the view holds.
-    const uint64_t viewEnd = pass.mapOffset + pass.mapLength;
+    const uint64_t viewEnd = pass.mapOffset + viewLength;
     uint64_t frames = pass.frames;
     if (pass.scanOffset >= viewEnd) frames = 0;
     else frames = std::min(frames, (viewEnd - pass.scanOffset) / block.frameBytes);

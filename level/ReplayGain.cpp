@@ -1,0 +1,400 @@
+#include "level/ReplayGain.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+extern "C" {
+#include <libavutil/channel_layout.h>
+#include <libavutil/opt.h>
+#include <libswresample/swresample.h>
+}
+
+namespace {
+
+// The published equal-loudness filters. The rows are the Yule-Walker numerator and
+// denominator, then the Butterworth numerator and denominator.
+//
+// Rates without a row here (88.2 kHz among them: the row in circulation for it has a
+// denominator copied from another rate and is unusable) are resampled to 48 kHz first.
+const LoudnessFilter kFilters[] = {
+    {48000,
+     {0.03857599435200, -0.02160367184185, -0.00123395316851, -0.00009291677959, -0.01655260341619,
+      0.02161526843274, -0.02074045215285, 0.00594298065125, 0.00306428023191, 0.00012025322027,
+      0.00288463683916},
+     {1.00000000000000, -3.84664617118067, 7.81501653005538, -11.34170355132042, 13.05504219327545,
+      -12.28759895145294, 9.48293806319790, -5.87257861775999, 2.75465861874613, -0.86984376593551,
+      0.13919314567432},
+     {0.98621192462708, -1.97242384925416, 0.98621192462708},
+     {1.00000000000000, -1.97223372919527, 0.97261396931306}},
+    {44100,
+     {0.05418656406430, -0.02911007808948, -0.00848709379851, -0.00851165645469, -0.00834990904936,
+      0.02245293253339, -0.02596338512915, 0.01624864962975, -0.00240879051584, 0.00674613682247,
+      -0.00187763777362},
+     {1.00000000000000, -3.47845948550071, 6.36317777566148, -8.54751527471874, 9.47693607801280,
+      -8.81498681370155, 6.85401540936998, -4.39470996079559, 2.19611684890774, -0.75104302451432,
+      0.13149317958808},
+     {0.98500175787242, -1.97000351574484, 0.98500175787242},
+     {1.00000000000000, -1.96977855582618, 0.97022847566350}},
+    {37800,
+     {0.10296717174470, -0.04877975583256, -0.02878009075237, -0.03519509188311, 0.02888717172493,
+      -0.00609872684844, 0.00209851217112, 0.00911704668543, 0.01154404718589, -0.00630293688700,
+      0.00107527155228},
+     {1.00000000000000, -2.64848054923531, 3.58406058405771, -3.83794914179161, 3.90142345804575,
+      -3.50179818637243, 2.67085284083076, -1.82581142372418, 1.09530368139801, -0.47689017820395,
+      0.11171431535905},
+     {0.98252400815195, -1.96504801630391, 0.98252400815195},
+     {1.00000000000000, -1.96474258269041, 0.96535344991740}},
+    {36000,
+     {0.11572297028613, -0.04120916051252, -0.04977731768022, -0.01047308680426, 0.00750863219157,
+      0.00055507694408, 0.00140344192886, 0.01286095246036, 0.00998223033885, -0.00725013810661,
+      0.00326503346879},
+     {1.00000000000000, -2.43606802820871, 3.01907406973844, -2.90372016038192, 2.67947188094303,
+      -2.17606479220391, 1.44912956803015, -0.87785765549050, 0.53592202672557, -0.26469344817509,
+      0.07495878059717},
+     {0.98165826840326, -1.96331653680652, 0.98165826840326},
+     {1.00000000000000, -1.96298008938934, 0.96365298422371}},
+    {32000,
+     {0.15457299681924, -0.09331049056315, -0.06247880153653, 0.02163541888798, -0.05588393329856,
+      0.04781476674921, 0.00222312597743, 0.03174092540049, -0.01390589421898, 0.00651420667831,
+      -0.00881362733839},
+     {1.00000000000000, -2.37898834973084, 2.84868151156327, -2.64577170229825, 2.23697657451713,
+      -1.67148153367602, 1.00595954808547, -0.45953458054983, 0.16378164858596, -0.05032077717131,
+      0.02347897407020},
+     {0.97938932735214, -1.95877865470428, 0.97938932735214},
+     {1.00000000000000, -1.95835380975398, 0.95920349965459}},
+    {28000,
+     {0.23882392323383, -0.22007791534089, -0.06014581950332, 0.05004458058021, -0.03293111254977,
+      0.02348678189717, 0.04290549799671, -0.00938141862174, 0.00015095146303, -0.00712601540885,
+      -0.00626520210162},
+     {1.00000000000000, -2.06894080899139, 1.76944699577212, -0.81404732584187, 0.25418286850232,
+      -0.30340791669762, 0.35616884070937, -0.14967310591258, -0.07024154183279, 0.11078404345174,
+      -0.03551838002425},
+     {0.97647981663949, -1.95295963327897, 0.97647981663949},
+     {1.00000000000000, -1.95240635772520, 0.95351290883275}},
+    {24000,
+     {0.30296907319327, -0.22613988682123, -0.08587323730772, 0.03282930172664, -0.00915702933434,
+      -0.02364141202522, -0.00584456039913, 0.06276101321749, -0.00000828086748, 0.00205861885564,
+      -0.02950134983287},
+     {1.00000000000000, -1.61273165137247, 1.07977492259970, -0.25656257754070, -0.16276719120440,
+      -0.22638893773906, 0.39120800788284, -0.22138138954925, 0.04500235387352, 0.02005851806501,
+      0.00302439095741},
+     {0.97531843204928, -1.95063686409857, 0.97531843204928},
+     {1.00000000000000, -1.95002759149878, 0.95124613669835}},
+    {22050,
+     {0.33642304856132, -0.25572241425570, -0.11828570177555, 0.11921148675203, -0.07834489609479,
+      -0.00469977914380, -0.00589500224440, 0.05724228140351, 0.00832043980773, -0.01635381384540,
+      -0.01760176568150},
+     {1.00000000000000, -1.49858979367799, 0.87350271418188, 0.12205022308084, -0.80774944671438,
+      0.47854794562326, -0.12453458140019, -0.04067510197014, 0.08333755284107, -0.04237348025746,
+      0.02977207319925},
+     {0.97316523498161, -1.94633046996323, 0.97316523498161},
+     {1.00000000000000, -1.94561023566527, 0.94705070426118}},
+    {18900,
+     {0.38412657295385, -0.44533729608120, 0.20426638066221, -0.28031676047946, 0.31484202614802,
+      -0.26078311203207, 0.12925201224848, -0.01141164696062, 0.03036522115769, -0.03776339305406,
+      0.00692036603586},
+     {1.00000000000000, -1.74403915585708, 1.96686095832499, -2.10081452941881, 1.90753918182846,
+      -1.83814263754422, 1.36971352214969, -0.77883609116398, 0.39266422457649, -0.12529383592986,
+      0.05424760697665},
+     {0.96535326815829, -1.93070653631658, 0.96535326815829},
+     {1.00000000000000, -1.92950577983524, 0.93190729279793}},
+    {16000,
+     {0.44915256608450, -0.14351757464547, -0.22784394429749, -0.01419140100551, 0.04078262797139,
+      -0.12398163381748, 0.04097565135648, 0.10478503600251, -0.01863887810927, -0.03193428438915,
+      0.00541907748707},
+     {1.00000000000000, -0.62820619233671, 0.29661783706366, -0.37256372942400, 0.00213767857124,
+      -0.42029820170918, 0.22199650564824, 0.00613424350682, 0.06747620744683, 0.05784820375801,
+      0.03222754072173},
+     {0.96454515552826, -1.92909031105652, 0.96454515552826},
+     {1.00000000000000, -1.92783286977036, 0.93034775234268}},
+    {12000,
+     {0.56619470757641, -0.75464456939302, 0.16242137742230, 0.16744243493672, -0.18901604199609,
+      0.30931782841830, -0.27562961986224, 0.00647310677246, 0.08647503780351, -0.03788984554840,
+      -0.00588215443421},
+     {1.00000000000000, -1.04800335126349, 0.29156311971249, -0.26806001042947, 0.00819999645858,
+      0.45054734505008, -0.33032403314006, 0.06739368333110, -0.04784254229033, 0.01639907836189,
+      0.01807364323573},
+     {0.96009142950541, -1.92018285901082, 0.96009142950541},
+     {1.00000000000000, -1.91858953033784, 0.92177618768381}},
+    {11025,
+     {0.58100494960553, -0.53174909058578, -0.14289799034253, 0.17520704835522, 0.02377945217615,
+      0.15558449135573, -0.25344790059353, 0.01628462406333, 0.06920467763959, -0.03721611395801,
+      -0.00749618797172},
+     {1.00000000000000, -0.51035327095184, -0.31863563325245, -0.20256413484477, 0.14728154134330,
+      0.38952639978999, -0.23313271880868, -0.05246019024463, -0.02505961724053, 0.02442357316099,
+      0.01818801111503},
+     {0.95856916599601, -1.91713833199203, 0.95856916599601},
+     {1.00000000000000, -1.91542108074780, 0.91885558323625}},
+    {8000,
+     {0.53648789255105, -0.42163034350696, -0.00275953611929, 0.04267842219415, -0.10214864179676,
+      0.14590772289388, -0.02459864859345, -0.11202315195388, -0.04060034127000, 0.04788665548180,
+      -0.02217936801134},
+     {1.00000000000000, -0.25049871956020, -0.43193942311114, -0.03424681017675, -0.04678328784242,
+      0.26408300200955, 0.15113130533216, -0.17556493366449, -0.18823009262115, 0.05477720428674,
+      0.04704409688120},
+     {0.94597685600279, -1.89195371200558, 0.94597685600279},
+     {1.00000000000000, -1.88903307939452, 0.89487434461664}},
+    {96000,
+     {0.006471345933032, -0.02567678242161, 0.049805860704367, -0.05823001743528, 0.040611847441914,
+      -0.010912036887501, -0.00901635868667, 0.012448886238123, -0.007206683749426,
+      0.002167156433951, -0.000261819276949},
+     {1.0, -7.22103125152679, 24.7034187975904, -52.6825833623896, 77.4825736677539,
+      -82.0074753444205, 63.1566097101925, -34.889569769245, 13.2126852760198, -3.09445623301669,
+      0.340344741393305},
+     {0.99308203517541, -1.98616407035082, 0.99308203517541},
+     {1.0, -1.98611621154089, 0.986211929160751}},
+    {64000,
+     {0.021776466467053, -0.062376961003801, 0.107731165328514, -0.150994515142316,
+      0.170334807313632, -0.157984942890531, 0.121639833268721, -0.074094040816409,
+      0.031282852041061, -0.00755421235941, 0.00117925454213},
+     {1.0, -5.74819833657784, 16.246507961894, -29.9691822642542, 40.027597579378,
+      -40.3209196052655, 30.8542077487718, -17.5965138737281, 7.10690214103873, -1.82175564515191,
+      0.223619893831468},
+     {0.989641019334721, -1.97928203866944, 0.989641019334721},
+     {1.0, -1.97917472731008, 0.979389350028798}},
+};
+
+constexpr int kResampleRate = 48000;
+constexpr size_t kHistogramBins = 12000;  // 0 to 120 dB in 0.01 dB steps
+constexpr double kPercentile = 0.95;
+
+typedef double V2 __attribute__((vector_size(16)));
+
+// One lane per channel: a plain double for mono, a pair for stereo, so both channels of
+// a frame run through the filter together.
+template <int C>
+struct Lanes;
+template <>
+struct Lanes<1> {
+  using T = double;
+  static T Load(const double* p) { return *p; }
+  static T Splat(double v) { return v; }
+  static void Store(T v, double* out) { out[0] = v; }
+};
+template <>
+struct Lanes<2> {
+  using T = V2;
+  static T Load(const double* p) {
+    T v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
+  }
+  static T Splat(double v) { return T{v, v}; }
+  static void Store(T v, double* out) { std::memcpy(out, &v, sizeof v); }
+};
+
+}  // namespace
+
+// Filter memory of both channels, lane by lane, and the running block's sum of squares.
+struct ReplayGainAnalyser::Memory {
+  double x[10][2] = {};  // past inputs, newest first
+  double y[10][2] = {};  // past Yule-Walker outputs, newest first
+  double z[2][2] = {};   // past Butterworth outputs, newest first
+  double sum[2] = {};
+  std::vector<uint32_t> histogram[2];
+};
+
+struct ReplayGainAnalyser::Resampler {
+  SwrContext* swr = nullptr;
+  std::vector<double> out;
+  ~Resampler() { swr_free(&swr); }
+};
+
+namespace {
+
+// Runs `n` frames through the filter pair and adds the squares of the output to the block
+// sums. The feedback terms of the most recent output are added last, so that the chain
+// from one sample to the next is one multiply and one subtraction long.
+template <int C>
+void FilterSpan(const LoudnessFilter& f, double (&xs)[10][2], double (&ys)[10][2], double (&zs)[2][2],
+                double (&sums)[2], const double* in, size_t n) {
+  using L = Lanes<C>;
+  using T = typename L::T;
+  const T b0 = L::Splat(f.b[0]), b1 = L::Splat(f.b[1]), b2 = L::Splat(f.b[2]), b3 = L::Splat(f.b[3]),
+          b4 = L::Splat(f.b[4]), b5 = L::Splat(f.b[5]), b6 = L::Splat(f.b[6]), b7 = L::Splat(f.b[7]),
+          b8 = L::Splat(f.b[8]), b9 = L::Splat(f.b[9]), b10 = L::Splat(f.b[10]);
+  const T a1 = L::Splat(f.a[1]), a2 = L::Splat(f.a[2]), a3 = L::Splat(f.a[3]), a4 = L::Splat(f.a[4]),
+          a5 = L::Splat(f.a[5]), a6 = L::Splat(f.a[6]), a7 = L::Splat(f.a[7]), a8 = L::Splat(f.a[8]),
+          a9 = L::Splat(f.a[9]), a10 = L::Splat(f.a[10]);
+  const T c0 = L::Splat(f.bb[0]), c1 = L::Splat(f.bb[1]), c2 = L::Splat(f.bb[2]);
+  const T d1 = L::Splat(f.ab[1]), d2 = L::Splat(f.ab[2]);
+
+  T x1 = L::Load(xs[0]), x2 = L::Load(xs[1]), x3 = L::Load(xs[2]), x4 = L::Load(xs[3]),
+    x5 = L::Load(xs[4]), x6 = L::Load(xs[5]), x7 = L::Load(xs[6]), x8 = L::Load(xs[7]),
+    x9 = L::Load(xs[8]), x10 = L::Load(xs[9]);
+  T y1 = L::Load(ys[0]), y2 = L::Load(ys[1]), y3 = L::Load(ys[2]), y4 = L::Load(ys[3]),
+    y5 = L::Load(ys[4]), y6 = L::Load(ys[5]), y7 = L::Load(ys[6]), y8 = L::Load(ys[7]),
+    y9 = L::Load(ys[8]), y10 = L::Load(ys[9]);
+  T z1 = L::Load(zs[0]), z2 = L::Load(zs[1]);
+  T sum = L::Load(sums);
+
+  for (size_t i = 0; i < n; ++i) {
+    const T x0 = L::Load(in + i * C);
+    const T fir = ((x0 * b0 + x1 * b1) + (x2 * b2 + x3 * b3)) + ((x4 * b4 + x5 * b5) + (x6 * b6 + x7 * b7)) +
+                  ((x8 * b8 + x9 * b9) + x10 * b10);
+    const T back = ((y2 * a2 + y3 * a3) + (y4 * a4 + y5 * a5)) + ((y6 * a6 + y7 * a7) + (y8 * a8 + y9 * a9)) +
+                   y10 * a10;
+    const T y0 = (fir - back) - y1 * a1;
+    const T z0 = (y0 * c0 + (y1 * c1 + y2 * c2 - z2 * d2)) - z1 * d1;
+    sum += z0 * z0;
+    x10 = x9; x9 = x8; x8 = x7; x7 = x6; x6 = x5; x5 = x4; x4 = x3; x3 = x2; x2 = x1; x1 = x0;
+    y10 = y9; y9 = y8; y8 = y7; y7 = y6; y6 = y5; y5 = y4; y4 = y3; y3 = y2; y2 = y1; y1 = y0;
+    z2 = z1; z1 = z0;
+  }
+
+  L::Store(x1, xs[0]); L::Store(x2, xs[1]); L::Store(x3, xs[2]); L::Store(x4, xs[3]);
+  L::Store(x5, xs[4]); L::Store(x6, xs[5]); L::Store(x7, xs[6]); L::Store(x8, xs[7]);
+  L::Store(x9, xs[8]); L::Store(x10, xs[9]);
+  L::Store(y1, ys[0]); L::Store(y2, ys[1]); L::Store(y3, ys[2]); L::Store(y4, ys[3]);
+  L::Store(y5, ys[4]); L::Store(y6, ys[5]); L::Store(y7, ys[6]); L::Store(y8, ys[7]);
+  L::Store(y9, ys[8]); L::Store(y10, ys[9]);
+  L::Store(z1, zs[0]); L::Store(z2, zs[1]);
+  L::Store(sum, sums);
+}
+
+// Histogram slot of a block: hundredths of a dB of its mean square, cut towards zero.
+size_t Slot(double sum, uint32_t frames) {
+  const double val = 1000.0 * std::log10(sum / frames + 1e-37);
+  if (!(val >= 0)) return 0;  // also NaN
+  if (val >= double(kHistogramBins - 1)) return kHistogramBins - 1;
+  return size_t(val);
+}
+
+}  // namespace
+
+const LoudnessFilter* FindLoudnessFilter(int sampleRate) {
+  for (const LoudnessFilter& f : kFilters)
+    if (f.rate == sampleRate) return &f;
+  return nullptr;
+}
+
+uint32_t LoudnessBlockLength(int sampleRate) { return uint32_t(std::ceil(sampleRate * 0.05)); }
+
+ReplayGainAnalyser::ReplayGainAnalyser() = default;
+ReplayGainAnalyser::~ReplayGainAnalyser() = default;
+
+bool ReplayGainAnalyser::Init(int sampleRate, int channels) {
+  m_resampler.reset();
+  m_state.reset();
+  m_channels = 0;
+  m_framesIn = m_framesFiltered = 0;
+  m_blockFill = 0;
+  m_finished = false;
+  m_peak[0] = m_peak[1] = 0;
+  if (sampleRate <= 0 || channels < 1 || channels > 2) return false;
+
+  int filterRate = sampleRate;
+  m_filter = FindLoudnessFilter(sampleRate);
+  if (!m_filter) {
+    // No table for this rate: the channels are resampled to 48 kHz and measured there.
+    auto r = std::make_unique<Resampler>();
+    AVChannelLayout layout;
+    av_channel_layout_default(&layout, channels);
+    int rc = swr_alloc_set_opts2(&r->swr, &layout, AV_SAMPLE_FMT_DBL, kResampleRate, &layout,
+                                 AV_SAMPLE_FMT_DBL, sampleRate, 0, nullptr);
+    av_channel_layout_uninit(&layout);
+    if (rc < 0 || !r->swr || swr_init(r->swr) < 0) return false;
+    m_resampler = std::move(r);
+    filterRate = kResampleRate;
+    m_filter = FindLoudnessFilter(kResampleRate);
+  }
+  m_blockLength = LoudnessBlockLength(filterRate);
+  m_channels = channels;
+  m_state = std::make_unique<Memory>();
+  for (int c = 0; c < channels; ++c) m_state->histogram[c].assign(kHistogramBins, 0);
+  return true;
+}
+
+void ReplayGainAnalyser::Process(const double* samples, size_t frames) {
+  if (!m_channels || m_finished || frames == 0) return;
+  for (int c = 0; c < m_channels; ++c) {
+    double peak = m_peak[c];
+    for (size_t i = 0; i < frames; ++i) peak = std::max(peak, std::fabs(samples[i * m_channels + c]));
+    m_peak[c] = peak;
+  }
+  m_framesIn += frames;
+  if (!m_resampler) {
+    Analyse(samples, frames);
+    return;
+  }
+  Resampler& r = *m_resampler;
+  const int outCap = swr_get_out_samples(r.swr, int(frames));
+  if (outCap <= 0) return;
+  r.out.resize(size_t(outCap) * m_channels);
+  uint8_t* out[1] = {reinterpret_cast<uint8_t*>(r.out.data())};
+  const uint8_t* in[1] = {reinterpret_cast<const uint8_t*>(samples)};
+  const int got = swr_convert(r.swr, out, outCap, in, int(frames));
+  if (got > 0) Analyse(r.out.data(), size_t(got));
+}
+
+void ReplayGainAnalyser::Analyse(const double* samples, size_t frames) {
+  Memory& st = *m_state;
+  while (frames > 0) {
+    const size_t span = std::min<size_t>(frames, m_blockLength - m_blockFill);
+    if (m_channels == 2)
+      FilterSpan<2>(*m_filter, st.x, st.y, st.z, st.sum, samples, span);
+    else
+      FilterSpan<1>(*m_filter, st.x, st.y, st.z, st.sum, samples, span);
+    samples += span * m_channels;
+    frames -= span;
+    m_blockFill += uint32_t(span);
+    m_framesFiltered += span;
+    if (m_blockFill == m_blockLength) EndBlock();
+  }
+}
+
+void ReplayGainAnalyser::EndBlock() {
+  Memory& st = *m_state;
+  for (int c = 0; c < m_channels; ++c) {
+    st.histogram[c][Slot(st.sum[c], m_blockFill)]++;
+    st.sum[c] = 0;
+  }
+  m_blockFill = 0;
+}
+
+void ReplayGainAnalyser::Finish() {
+  if (!m_channels || m_finished) return;
+  if (m_resampler) {
+    Resampler& r = *m_resampler;
+    for (;;) {
+      const int outCap = std::max(swr_get_out_samples(r.swr, 0), 0) + 64;
+      r.out.resize(size_t(outCap) * m_channels);
+      uint8_t* out[1] = {reinterpret_cast<uint8_t*>(r.out.data())};
+      const int got = swr_convert(r.swr, out, outCap, nullptr, 0);
+      if (got <= 0) break;
+      Analyse(r.out.data(), size_t(got));
+    }
+  }
+  // A sound shorter than one block is measured over what it has; otherwise the
+  // incomplete last block is left out.
+  if (m_framesFiltered < m_blockLength && m_blockFill > 0) EndBlock();
+  m_finished = true;
+}
+
+uint64_t ReplayGainAnalyser::Blocks(int channel) const {
+  if (!m_state || channel >= m_channels) return 0;
+  uint64_t n = 0;
+  for (uint32_t v : m_state->histogram[channel]) n += v;
+  return n;
+}
+
+double ReplayGainAnalyser::Gain(int channel) const {
+  if (!m_state || channel >= m_channels) return kPinkReference;
+  const std::vector<uint32_t>& h = m_state->histogram[channel];
+  uint64_t blocks = 0;
+  for (uint32_t v : h) blocks += v;
+  if (blocks == 0) return kPinkReference;
+  // The level that 5 percent of the blocks reach or pass, counted from the top. The count
+  // is taken in single precision as the reference analysis takes it, so that 5 percent of
+  // a whole multiple of 20 blocks stays a whole number (in double it would round up).
+  const float top = float(blocks) * float(1.0 - kPercentile);
+  int64_t upper = int64_t(std::ceil(top));
+  size_t i = h.size();
+  while (i-- > 0) {
+    upper -= h[i];
+    if (upper <= 0) break;
+  }
+  if (i == size_t(-1)) i = 0;
+  return kPinkReference - double(i) / 100.0;
+}
