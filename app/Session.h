@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 #include "app/Prompt.h"
 #include "app/Pump.h"
@@ -100,6 +101,13 @@ struct Session {
   // Headless use: a reader fills SourceFormat and the lines and returns 1 without
   // starting its worker (the caller may answer from the log, or read the source in place).
   int m_noWorker = 0;
+  // The open dialog of the front end: the chosen path, empty on Cancel. Unset in headless
+  // use, where it behaves as Cancel.
+  std::function<QString()> m_fileDialog;
+  // A question answered Yes during an open asks for the dialog; it is shown once that open
+  // has unwound (the open that asked would otherwise tear down the file chosen in it).
+  int m_openDialogPending = 0;
+  int m_openDepth = 0;
   // Who runs a decoder: -1 the main window's open, 1 the batch run (its own output file).
   int m_decodeContext = -1;
   uint32_t m_allocGranularity = kAllocGranularity;

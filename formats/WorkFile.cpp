@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <cerrno>
@@ -49,6 +50,21 @@ QString UnescapeMount(const QByteArray& in) {
   return QString::fromUtf8(out);
 }
 
+// True when the two paths name one file (the same path, or a link to the same inode).
+bool SameFile(const QString& a, const QString& b) {
+  if (QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath()) return true;
+  struct stat sa, sb;
+  return ::stat(QFile::encodeName(a).constData(), &sa) == 0 && ::stat(QFile::encodeName(b).constData(), &sb) == 0 &&
+         sa.st_dev == sb.st_dev && sa.st_ino == sb.st_ino;
+}
+
+// Makes an existing file writable for its owner (a read-only file of an earlier run).
+void ClearReadOnlyBit(const QByteArray& native) {
+  struct stat st;
+  if (::lstat(native.constData(), &st) == 0 && S_ISREG(st.st_mode) && !(st.st_mode & S_IWUSR))
+    ::chmod(native.constData(), (st.st_mode & 07777) | S_IWUSR);
+}
+
 std::thread g_workerThread;
 std::atomic<int> g_workerExit{-1};
 
@@ -88,7 +104,7 @@ QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t forma
   char* p = h.data();
   const int bytesPerSample = (bits + 7) / 8;
   std::memcpy(p, "RIFF", 4);
-  PutLe32(p + 4, dataBytes + 36);
+  PutLe32(p + 4, uint32_t(std::min<uint64_t>(uint64_t(dataBytes) + 36, kMaxWorkDataSize)));
   std::memcpy(p + 8, "WAVE", 4);
   std::memcpy(p + 12, "fmt ", 4);
   PutLe32(p + 16, 16);
@@ -99,7 +115,7 @@ QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t forma
   PutLe16(p + 32, uint16_t(channels * bytesPerSample));
   PutLe16(p + 34, uint16_t(bits));
   std::memcpy(p + 36, "data", 4);
-  PutLe32(p + 40, dataBytes);
+  PutLe32(p + 40, std::min(dataBytes, kMaxWorkDataSize));
   return h;
 }
 
@@ -109,7 +125,7 @@ bool DeleteWorkFile(const QString& path) {
   struct stat st;
   if (::lstat(native.constData(), &st) != 0) return errno == ENOENT;
   if (!S_ISREG(st.st_mode)) return false;  // a work file is a plain file; never a device or link
-  if (!(st.st_mode & S_IWUSR)) ::chmod(native.constData(), st.st_mode | S_IWUSR);
+  ClearReadOnlyBit(native);
   return ::unlink(native.constData()) == 0 || errno == ENOENT;
 }
 
@@ -127,14 +143,12 @@ bool WorkFileWriter::Open(const QString& path, const QString& sourcePath) {
   m_total = 0;
   m_errno = 0;
   // A decoder never writes to its source; on a read-only medium this is the refusal.
-  if (!sourcePath.isEmpty() && QFileInfo(path).absoluteFilePath() == QFileInfo(sourcePath).absoluteFilePath()) {
+  if (!sourcePath.isEmpty() && SameFile(path, sourcePath)) {
     m_errno = EROFS;
     return false;
   }
   QByteArray native = QFile::encodeName(path);
-  struct stat st;
-  if (::stat(native.constData(), &st) == 0 && !(st.st_mode & S_IWUSR))
-    ::chmod(native.constData(), st.st_mode | S_IWUSR);  // a read-only work file of an earlier run
+  ClearReadOnlyBit(native);
   m_fd = ::open(native.constData(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
   if (m_fd < 0) {
     m_errno = errno;
@@ -209,8 +223,10 @@ bool WorkFileWriter::PatchSizesIfDifferent(uint32_t dataBytes) {
     if (::pread(m_fd, b, 4, off) != 4) return ~0u;
     return uint32_t(b[0]) | uint32_t(b[1]) << 8 | uint32_t(b[2]) << 16 | uint32_t(b[3]) << 24;
   };
-  if (readAt(4) != dataBytes + 36 && !WriteAt(4, dataBytes + 36)) return false;
-  if (readAt(40) != dataBytes && !WriteAt(40, dataBytes)) return false;
+  const uint32_t riffSize = uint32_t(std::min<uint64_t>(uint64_t(dataBytes) + 36, kMaxWorkDataSize));
+  const uint32_t dataSize = std::min(dataBytes, kMaxWorkDataSize);
+  if (readAt(4) != riffSize && !WriteAt(4, riffSize)) return false;
+  if (readAt(40) != dataSize && !WriteAt(40, dataSize)) return false;
   return true;
 }
 
@@ -233,22 +249,28 @@ void JoinWorker() {
   if (g_workerThread.joinable()) g_workerThread.join();
 }
 
-void StartWorker(std::function<int()> body) {
+bool StartWorker(std::function<int()> body) {
   JoinWorker();
   g_workerExit = -1;
   g_workerBusy.store(1);
   // Linux gives real-time priority only to privileged processes; the worker runs at the
   // normal priority and the window stays responsive through the pump.
-  g_workerThread = std::thread([body = std::move(body)]() {
-    int code = 1;
-    try {
-      code = body();
-    } catch (...) {
-      code = 1;
-    }
-    g_workerExit = code;
+  try {
+    g_workerThread = std::thread([body = std::move(body)]() {
+      int code = 1;
+      try {
+        code = body();
+      } catch (...) {
+        code = 1;
+      }
+      g_workerExit = code;
+      g_workerBusy.store(0);
+    });
+  } catch (...) {
     g_workerBusy.store(0);
-  });
+    return false;
+  }
+  return true;
 }
 
 void WaitForWorker(Session& s) {
@@ -261,51 +283,75 @@ void WaitForWorker(Session& s) {
 
 int WorkerExitCode() { return g_workerExit.load(); }
 
+namespace {
+
+// Copies one open file into another; 0 or the errno value of the failed call.
+int CopyContents(int in, int out) {
+  // The kernel copies without a round trip through user space where it can.
+  for (;;) {
+    const ssize_t n = ::copy_file_range(in, nullptr, out, nullptr, size_t(1) << 30, 0);
+    if (n == 0) return 0;
+    if (n > 0) continue;
+    if (errno == EINTR) continue;
+    if (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP || errno == EBADF) break;
+    return errno;
+  }
+  static constexpr size_t kChunk = 1 << 20;
+  std::unique_ptr<char[]> buf(new char[kChunk]);
+  for (;;) {
+    const ssize_t n = ::read(in, buf.get(), kChunk);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return errno;
+    if (n == 0) return 0;
+    ssize_t off = 0;
+    while (off < n) {
+      const ssize_t w = ::write(out, buf.get() + off, size_t(n - off));
+      if (w < 0 && errno == EINTR) continue;
+      if (w <= 0) return w < 0 ? errno : ENOSPC;
+      off += w;
+    }
+  }
+}
+
+bool IsDiskFull(int err) { return err == ENOSPC || err == EFBIG || err == EDQUOT; }
+
+}  // namespace
+
 int CopyWorkerBody(Session& s) {
   const QString source = g_sourcePath;
   const QString work = g_workPath;
-  QByteArray src = QFile::encodeName(source);
-  QByteArray dst = QFile::encodeName(work);
+  // Read in place: nothing to copy, and the source must never be truncated.
+  if (SameFile(source, work)) return 0;
+  const QByteArray src = QFile::encodeName(source);
+  const QByteArray dst = QFile::encodeName(work);
   int err = 0;
-  int in = ::open(src.constData(), O_RDONLY | O_CLOEXEC);
+  const int in = ::open(src.constData(), O_RDONLY | O_CLOEXEC);
   if (in < 0) err = errno;
   int out = -1;
   if (!err) {
-    struct stat st;
-    if (::stat(dst.constData(), &st) == 0 && !(st.st_mode & S_IWUSR))
-      ::chmod(dst.constData(), st.st_mode | S_IWUSR);
+    ClearReadOnlyBit(dst);
     out = ::open(dst.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (out < 0) err = errno;
   }
-  if (!err) {
-    static constexpr size_t kChunk = 1 << 20;
-    std::unique_ptr<char[]> buf(new char[kChunk]);
-    for (;;) {
-      ssize_t n = ::read(in, buf.get(), kChunk);
-      if (n < 0 && errno == EINTR) continue;
-      if (n < 0) { err = errno; break; }
-      if (n == 0) break;
-      ssize_t off = 0;
-      while (off < n) {
-        ssize_t w = ::write(out, buf.get() + off, size_t(n - off));
-        if (w < 0 && errno == EINTR) continue;
-        if (w <= 0) { err = w < 0 ? errno : ENOSPC; break; }
-        off += w;
-      }
-      if (err) break;
-    }
-  }
+  if (!err) err = CopyContents(in, out);
   if (in >= 0) ::close(in);
   if (out >= 0 && ::close(out) != 0 && !err) err = errno;
   if (!err) return 0;
-  int code = ErrorCodeFromErrno(err, err == ENOSPC ? source : work);
-  QString path = code == kErrDiskFull ? source : work;
-  s.m_prompt.Message(TR(" Sorry, but the program can not continue operation with the file: ") + path +
-                         ". " + SystemErrorText(code),
+  // Nothing would remove a half-written copy later: the session forgets its path.
+  if (out >= 0) ::unlink(dst.constData());
+
+  // A short write is a full disk; that message names the source, all others the work file.
+  const bool full = IsDiskFull(err);
+  const QString path = full ? source : work;
+  const QString systemText = QString::fromLocal8Bit(std::strerror(full ? ENOSPC : err));
+  s.m_prompt.Message(TR(" Sorry, but the program can not continue operation with the file: ") + path + ". " +
+                         systemText,
                      PromptIcon::Error);
   g_workPath.clear();
   g_copyFinished = 1;
   g_copyFailed = 1;
+  if (full) return kErrDiskFull;
+  const int code = ErrorCodeFromErrno(err, path);
   return code < 0 ? -code : code;
 }
 

@@ -20,6 +20,7 @@ QString WorkPathFor(const QString& source, int driveType);
 int DriveTypeOf(const QString& path);
 
 // The 44-byte header: RIFF size = dataBytes + 36, format tag 1 (or 3 for float output).
+// Both size fields are clamped to 0xFFFFFF00.
 QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t formatTag, uint32_t dataBytes);
 
 // Clears the owner's write bit problem first (a read-only file), then deletes. True when
@@ -82,10 +83,10 @@ class WorkFileWriter : public PcmSink {
 QString WorkSeekFailedText(const QString& workPath);
 QString WorkWriteFailedText(const QString& workPath);
 
-// Starts the one worker: any finished earlier worker is joined, g_workerBusy is set to 1
-// before the thread starts, and cleared on every way out of `body`. `body` returns the
-// thread's exit code (0 on success).
-void StartWorker(std::function<int()> body);
+// Starts the one worker: any earlier worker is joined, g_workerBusy is set to 1 before the
+// thread starts, and cleared on every way out of `body`. `body` returns the thread's exit
+// code (0 on success). False when no thread could be started (g_workerBusy is 0 again).
+bool StartWorker(std::function<int()> body);
 // Waits for the current worker while pumping the session (at 10 ms steps).
 void WaitForWorker(Session& s);
 // Joins a finished worker (program end, tests).
@@ -93,10 +94,12 @@ void JoinWorker();
 // Exit code of the last finished worker; -1 while it runs or if none ran.
 int WorkerExitCode();
 
-// The copy worker of WAV and MP3: copies g_sourcePath to g_workPath. On failure shows
+// The copy worker of WAV and MP3: copies g_sourcePath to g_workPath (a read-only work file
+// left behind is overwritten; the source is only read). On failure shows
 // " Sorry, but the program can not continue operation with the file: " + path + ". " +
-// the system's text, clears g_workPath and sets g_copyFinished and g_copyFailed.
-// Returns the exit code (0 or the error number).
+// the system's text, where the path is the source for a full disk and the work file
+// otherwise; clears g_workPath and sets g_copyFinished and g_copyFailed.
+// Returns the exit code (0 or the error number, 112 for a full disk).
 int CopyWorkerBody(Session& s);
 
 // Finds the data chunk of a work file in its first bytes, as the test does when the reader
