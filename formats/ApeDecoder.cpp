@@ -284,6 +284,7 @@ int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info) {
   if (descriptorBytes < 52 || headerBytes < 24) return kErrInvalidInput;
 
   const uint64_t headerAt = junk + descriptorBytes;
+  info.headerOffset = headerAt;
   if (headerAt + 24 > size) return kErrInvalidInput;
   const uint8_t* h = data + headerAt;
   info.compressionLevel = Le16(h + 0);
@@ -488,7 +489,8 @@ int Decoder::DecodeFrameAs(uint32_t /*index*/, uint64_t start, uint32_t blocks) 
     if (specialCodes & 1) {
       for (uint32_t b = 0; b < blocks; ++b) PutSample(out, 0, bytes);
     } else {
-      for (uint32_t b = 0; b < blocks; ++b) PutSample(out, px.Decompress(rc.DecodeValue(states[0]), 0), bytes);
+      for (uint32_t b = 0; b < blocks && !in.overrun; ++b)
+        PutSample(out, px.Decompress(rc.DecodeValue(states[0]), 0), bytes);
     }
   } else if (channels == 2) {
     auto& px = (*preds)[0];
@@ -497,11 +499,11 @@ int Decoder::DecodeFrameAs(uint32_t /*index*/, uint64_t start, uint32_t blocks) 
       for (uint32_t b = 0; b < blocks && ok; ++b) ok = PutPair(out, 0, 0, bytes);
     } else if (specialCodes & 4) {
       // Both channels the same: only the mid channel is coded.
-      for (uint32_t b = 0; b < blocks && ok; ++b)
+      for (uint32_t b = 0; b < blocks && ok && !in.overrun; ++b)
         ok = PutPair(out, px.Decompress(rc.DecodeValue(states[0]), 0), 0, bytes);
     } else {
       int32_t lastX = 0;
-      for (uint32_t b = 0; b < blocks && ok; ++b) {
+      for (uint32_t b = 0; b < blocks && ok && !in.overrun; ++b) {
         const int64_t ny = rc.DecodeValue(states[1]);
         const int64_t nx = rc.DecodeValue(states[0]);
         const int32_t y = py.Decompress(ny, lastX);
@@ -515,7 +517,7 @@ int Decoder::DecodeFrameAs(uint32_t /*index*/, uint64_t start, uint32_t blocks) 
     // front pair, the surround pair and the rear pair are coded as mid and side.
     const bool pairs = (bytes == 2 || bytes == 3) && (channels == 4 || channels >= 6);
     int32_t v[32];
-    for (uint32_t b = 0; b < blocks && ok; ++b) {
+    for (uint32_t b = 0; b < blocks && ok && !in.overrun; ++b) {
       for (int c = 0; c < channels; ++c) v[c] = (*preds)[size_t(c)].Decompress(rc.DecodeValue(states[c]), 0);
       if (!pairs) {
         for (int c = 0; c < channels; ++c) PutSample(out, v[c], bytes);

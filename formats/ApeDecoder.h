@@ -76,6 +76,7 @@ struct StreamInfo {
   uint32_t wavHeaderBytes = 0;
   uint32_t terminatingBytes = 0;
   uint64_t junkBytes = 0;        // an ID3v2 tag or other bytes before the descriptor
+  uint64_t headerOffset = 0;     // absolute offset of the header after the descriptor
   uint64_t frameDataStart = 0;   // absolute offsets in the file
   uint64_t frameDataEnd = 0;
   std::vector<uint64_t> seekTable;  // absolute offset of each frame
@@ -83,7 +84,9 @@ struct StreamInfo {
   int BlockAlign() const { return (bits / 8) * channels; }
   uint64_t WavDataBytes() const { return totalBlocks * uint64_t(BlockAlign()); }
   int64_t LengthMs() const {
-    return sampleRate > 0 ? int64_t(double(totalBlocks) * 1000.0 / double(sampleRate)) : 0;
+    if (sampleRate <= 0) return 0;
+    const double ms = double(totalBlocks) * 1000.0 / double(sampleRate);
+    return ms < 9.0e18 ? int64_t(ms) : INT64_MAX;
   }
 };
 

@@ -51,10 +51,16 @@ class ApeNNFilter {
     Flush();
   }
 
+  // Back to the state of a frame's start. Only the history before the first position is
+  // ever read before it is written, so only that part needs clearing, and only after the
+  // window has rolled over it.
   void Flush() {
     std::fill(m_taps.begin(), m_taps.end(), Tap(0));
-    std::fill(m_input.begin(), m_input.end(), Tap(0));
-    std::fill(m_delta.begin(), m_delta.end(), Tap(0));
+    if (m_rolled) {
+      std::fill_n(m_input.begin(), m_order, Tap(0));
+      std::fill_n(m_delta.begin(), m_order, Tap(0));
+      m_rolled = false;
+    }
     m_pos = m_order;
     m_average = 0;
   }
@@ -62,10 +68,25 @@ class ApeNNFilter {
   void SetLegacy(bool legacy) { m_legacy = legacy; }
 
   S Decompress(S in) {
-    const Tap* x = &m_input[size_t(m_pos - m_order)];
-    const Tap* d = &m_delta[size_t(m_pos - m_order)];
-    Tap* m = m_taps.data();
-    const int n = m_order;
+    // The orders of the levels, each with loops of a fixed length the compiler unrolls
+    // and vectorises.
+    switch (m_order) {
+      case 16: return Step<16>(in);
+      case 32: return Step<32>(in);
+      case 64: return Step<64>(in);
+      case 256: return Step<256>(in);
+      case 1280: return Step<1280>(in);
+      default: return Step<0>(in);
+    }
+  }
+
+ private:
+  template <int N>
+  S Step(S in) {
+    const Tap* __restrict x = &m_input[size_t(m_pos - m_order)];
+    const Tap* __restrict d = &m_delta[size_t(m_pos - m_order)];
+    Tap* __restrict m = m_taps.data();
+    const int n = N > 0 ? N : m_order;
     int64_t dot;
     if constexpr (sizeof(S) == 4) {
       // 16-bit products summed in 32 bits, wrapping as the encoder's did.
@@ -91,17 +112,19 @@ class ApeNNFilter {
 
     m_input[size_t(m_pos)] = SaturateToShort(out);
 
-    S absOut = out < 0 ? WrapSub<S>(0, out) : out;
+    // The step of each tap's next adaptation: larger for a value that is large against
+    // the running average of recent magnitudes.
+    const int64_t absOut = int64_t(out < 0 ? WrapSub<S>(0, out) : out);
     Tap* dm = &m_delta[size_t(m_pos)];
-    if (int64_t(absOut) > m_average * 3)
+    if (absOut > WrapMul<int64_t>(m_average, 3))
       dm[0] = Tap(((out >> 25) & 64) - 32);
-    else if (int64_t(absOut) > (m_average * 4) / 3)
+    else if (absOut > WrapMul<int64_t>(m_average, 4) / 3)
       dm[0] = Tap(((out >> 26) & 32) - 16);
     else if (absOut > 0)
       dm[0] = Tap(((out >> 27) & 16) - 8);
     else
       dm[0] = 0;
-    m_average += (int64_t(absOut) - m_average) / 16;
+    m_average = WrapAdd<int64_t>(m_average, WrapSub<int64_t>(absOut, m_average) / 16);
     dm[-1] = Tap(dm[-1] >> 1);
     dm[-2] = Tap(dm[-2] >> 1);
     dm[-8] = Tap(dm[-8] >> 1);
@@ -110,15 +133,16 @@ class ApeNNFilter {
       std::memmove(m_input.data(), &m_input[size_t(kWindow)], size_t(m_order) * sizeof(Tap));
       std::memmove(m_delta.data(), &m_delta[size_t(kWindow)], size_t(m_order) * sizeof(Tap));
       m_pos = m_order;
+      m_rolled = true;
     }
     return out;
   }
 
- private:
   static constexpr int kWindow = 4096;
   int m_order;
   int m_shift;
   bool m_legacy = false;
+  bool m_rolled = true;
   int m_pos = 0;
   int64_t m_average = 0;
   std::vector<Tap> m_taps;

@@ -8,6 +8,7 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 #include "app/Globals.h"
@@ -216,6 +217,10 @@ int OpenFlac(Session& s) {
   g_flacStatus = kFlacNoError;
   g_flacAborted = 0;
   s.m_levelLeft = s.m_levelRight = -1.0f;
+  if (g_workFile >= 0) {
+    ::close(g_workFile);
+    g_workFile = -1;
+  }
 
   auto job = std::make_shared<FlacJob>();
   auto writer = std::make_shared<WorkFileWriter>();

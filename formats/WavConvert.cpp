@@ -357,6 +357,15 @@ int OpenWavConversion(Session& s) {
   s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(w.sampleRate) + TR(" Hz");
   s.m_propertyLines[3] = TR("  Audio Format      PCM").chopped(3) + plan.codecName;
   if (s.m_noWorker) {
+    // Without a conversion the length comes from the codec's frames per block, where the
+    // codec tells it; the conversion sets the true value when it runs.
+    const uint64_t bytes = s.m_dataSize;
+    const int block = w.blockAlign > 0 ? w.blockAlign : 1;
+    const int perBlock = av_get_audio_frame_duration(job->decoder.get(), block);
+    const int perRest = bytes % uint64_t(block) ? av_get_audio_frame_duration(job->decoder.get(), int(bytes % uint64_t(block))) : 0;
+    const double frames = double(bytes / uint64_t(block)) * perBlock + perRest;
+    const double ms = plan.sampleRate > 0 ? frames / plan.sampleRate * 1000.0 : 0.0;
+    s.m_durationMs = perBlock > 0 && ms < 4294967295.0 ? uint32_t(std::llround(ms)) : 0;
     s.m_sampleRate = plan.sampleRate;
     s.m_channels = plan.channels;
     return 1;

@@ -335,11 +335,14 @@ namespace {
 constexpr uint64_t kPumpFrames = 64 * 1024;
 
 // A view at any offset: mmap wants page-aligned offsets, G need not be one in tests.
-const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t length) {
+// `length` becomes what the view really holds from `offset`.
+const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t& length) {
   static const uint64_t page = uint64_t(::sysconf(_SC_PAGESIZE));
   const uint64_t start = offset / page * page;
   const uint8_t* v = f.Map(start, length + (offset - start));
-  return v ? v + (offset - start) : nullptr;
+  if (!v) return nullptr;
+  length = f.ViewSize() - (offset - start);
+  return v + (offset - start);
 }
 
 class Scan {
@@ -444,16 +447,23 @@ int ScanPeakLevels(Session& s) {
     const int err = path.isEmpty() ? ENOENT : file.LastErrno();
     ReportFileError(s, TR(" open a temporary copy of the file "), s.m_fileName,
                     TR("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
+    s.StopTest();
     return 1;
   }
   const uint64_t size = file.Size();
   s.m_fileSize = uint32_t(size);
   s.m_fileSizeHigh = uint32_t(size >> 32);
-  if (size == 0) return 1;
+  if (size == 0) {
+    s.StopTest();
+    return 1;
+  }
   if (s.m_allocGranularity == 0) s.m_allocGranularity = kAllocGranularity;
   const uint64_t w = uint64_t(s.m_allocGranularity) * 1600;
   s.m_windowedMapping = size > w ? 1 : 0;
-  if (s.m_dataSize == 0 && !FindSoundData(s, file, s.m_windowedMapping)) return 1;
+  if (s.m_dataSize == 0 && !FindSoundData(s, file, s.m_windowedMapping)) {
+    s.StopTest();
+    return 1;
+  }
 
   SampleBlock block;
   if (!ChooseSampleBlock(s.m_channels, s.m_bits, s.m_formatTag, block)) {
@@ -473,11 +483,15 @@ int ScanPeakLevels(Session& s) {
   PeakPass pass;
   for (int index = 0; plan.Next(pass); ++index) {
     if (!pass.mapped) break;
-    const uint8_t* view = MapAt(file, pass.mapOffset, pass.mapLength);
-    if (!view) return 1;
+    uint64_t viewLength = pass.mapLength;
+    const uint8_t* view = MapAt(file, pass.mapOffset, viewLength);
+    if (!view) {
+      s.StopTest();
+      return 1;
+    }
     s.m_mappedView = view;
     // The frames of this pass, cut to what the view holds.
-    const uint64_t viewEnd = pass.mapOffset + pass.mapLength;
+    const uint64_t viewEnd = pass.mapOffset + viewLength;
     uint64_t frames = pass.frames;
     if (pass.scanOffset >= viewEnd) frames = 0;
     else frames = std::min(frames, (viewEnd - pass.scanOffset) / block.frameBytes);
@@ -491,6 +505,7 @@ int ScanPeakLevels(Session& s) {
       if (!scan.KeepGoing()) {
         file.Unmap();
         s.m_mappedView = nullptr;
+        s.StopTest();
         return 1;
       }
       uint64_t n = std::min(frames, kPumpFrames);
@@ -507,7 +522,10 @@ int ScanPeakLevels(Session& s) {
     }
     file.Unmap();
     s.m_mappedView = nullptr;
-    if (!scan.KeepGoing()) return 1;
+    if (!scan.KeepGoing()) {
+      s.StopTest();
+      return 1;
+    }
   }
   WriteLevels(s, x, block.bits, block.channels == 2);
   return 0;

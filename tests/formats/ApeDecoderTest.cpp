@@ -97,3 +97,98 @@ TEST(ApeDecoderTest, DamagedFramesEndWithAnErrorAndGiveNoSample) {
   EXPECT_TRUE(bad.rc == ape::kErrChecksum || bad.rc == ape::kErrDecodingFrame) << bad.rc;
   EXPECT_EQ(bad.pcm.size(), 0);
 }
+
+TEST(ApeDecoderTest, InformationFieldsOfTheLibrary) {
+  int error = -1;
+  const std::wstring w = ApeData("s24_stereo_96k.ape").toStdWString();
+  APE_DECOMPRESS_HANDLE h = c_APEDecompress_CreateW(w.c_str(), &error);
+  ASSERT_NE(h, nullptr);
+  EXPECT_EQ(error, 0);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1000), 3990);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1003), 96000);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1004), 24);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1006), 2);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1007), 6);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1013), 192000 * 6);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1016), 192000);
+  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1017), 2000);
+  c_APEDecompress_Destroy(h);
+
+  const std::wstring missing = ApeData("none.ape").toStdWString();
+  EXPECT_EQ(c_APEDecompress_CreateW(missing.c_str(), &error), nullptr);
+  EXPECT_EQ(error, ape::kErrRead);
+}
+
+// Reads of any size give the same samples, across frame boundaries (two frames here).
+TEST(ApeDecoderTest, ReadSizeDoesNotChangeTheSamples) {
+  const QString file = ApeData("s16_stereo_44k_c1000.ape");
+  for (int64_t chunk : {int64_t(1), int64_t(777), int64_t(73728), int64_t(200000)}) {
+    SCOPED_TRACE(chunk);
+    Decoded d = DecodeAll(file, chunk);
+    EXPECT_EQ(d.rc, 0);
+    EXPECT_EQ(Md5(d.pcm), "8f05979c5f684e2a855dc6ee88d4f4ce");
+  }
+}
+
+// Damage in the second frame: the first frame comes out whole and exact, then the error.
+TEST(ApeDecoderTest, DamageInALaterFrameKeepsTheFramesBeforeIt) {
+  testing_support::TestSession t;
+  QByteArray bytes = testing_support::ReadFile(ApeData("s16_stereo_44k_c1000.ape"));
+  ape::StreamInfo info;
+  ASSERT_EQ(ape::ParseHeader(reinterpret_cast<const uint8_t*>(bytes.constData()), uint64_t(bytes.size()), info), 0);
+  ASSERT_EQ(info.totalFrames, 2u);
+  const qsizetype mid = qsizetype((info.seekTable[1] + info.frameDataEnd) / 2);
+  for (qsizetype i = mid; i < mid + 64; ++i) bytes[i] = char(bytes[i] ^ 0x5A);
+  const QString path = t.Path("damaged.ape");
+  ASSERT_TRUE(testing_support::WriteFile(path, bytes));
+
+  const Decoded good = DecodeAll(ApeData("s16_stereo_44k_c1000.ape"));
+  const Decoded bad = DecodeAll(path);
+  EXPECT_TRUE(bad.rc == ape::kErrChecksum || bad.rc == ape::kErrDecodingFrame) << bad.rc;
+  EXPECT_EQ(bad.pcm.size(), 73728 * 4);
+  EXPECT_TRUE(bad.pcm == good.pcm.left(73728 * 4));
+}
+
+// A file cut anywhere before the end of its audio is an error, never a short success.
+TEST(ApeDecoderTest, EveryCutOfTheAudioIsAnError) {
+  const QByteArray whole = testing_support::ReadFile(ApeData("short_s16_stereo.ape"));
+  ape::StreamInfo info;
+  ASSERT_EQ(ape::ParseHeader(reinterpret_cast<const uint8_t*>(whole.constData()), uint64_t(whole.size()), info), 0);
+  for (qsizetype cut = 0; cut < qsizetype(info.frameDataEnd); cut += 5) {
+    ape::Decoder d;
+    const QByteArray part = whole.left(cut);
+    if (d.Open(reinterpret_cast<const uint8_t*>(part.constData()), uint64_t(part.size())) != 0) continue;
+    std::vector<uint8_t> buf(4 * 4096);
+    int64_t got = 0, total = 0;
+    int rc = 0;
+    while ((rc = d.GetData(buf.data(), 4096, &got)) == 0 && got > 0) total += got;
+    total += got;
+    EXPECT_NE(rc, 0) << "cut at " << cut;
+    EXPECT_EQ(total, 0) << "cut at " << cut;
+  }
+}
+
+// The two files the program refuses still decode: their extremes are those of the source.
+TEST(ApeDecoderTest, ExtremesOfThirtyTwoBitAndThreeChannelFiles) {
+  auto extremes = [](const QByteArray& pcm, int channels, int bytes) {
+    std::vector<std::pair<int64_t, int64_t>> mm(size_t(channels), {INT64_MAX, INT64_MIN});
+    const auto* p = reinterpret_cast<const uint8_t*>(pcm.constData());
+    const qsizetype n = pcm.size() / bytes;
+    for (qsizetype i = 0; i < n; ++i) {
+      uint32_t u = 0;
+      for (int b = 0; b < bytes; ++b) u |= uint32_t(p[i * bytes + b]) << (8 * b);
+      const int64_t v = bytes == 4 ? int64_t(int32_t(u)) : int64_t(int16_t(uint16_t(u)));
+      auto& e = mm[size_t(i % channels)];
+      e.first = std::min(e.first, v);
+      e.second = std::max(e.second, v);
+    }
+    return mm;
+  };
+  const auto s32 = extremes(DecodeAll(ApeData("s32_stereo_44k.ape")).pcm, 2, 4);
+  EXPECT_EQ(s32[0], std::make_pair(int64_t(-2147483648LL), int64_t(1076284561)));
+  EXPECT_EQ(s32[1], std::make_pair(int64_t(-539423367), int64_t(539423367)));
+  const auto c3 = extremes(DecodeAll(ApeData("s16_3ch_44k.ape")).pcm, 3, 2);
+  EXPECT_EQ(c3[0], std::make_pair(int64_t(-16422), int64_t(16422)));
+  EXPECT_EQ(c3[1], std::make_pair(int64_t(-8231), int64_t(8231)));
+  EXPECT_EQ(c3[2], std::make_pair(int64_t(-3277), int64_t(3277)));
+}

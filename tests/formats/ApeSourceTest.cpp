@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "app/Globals.h"
+#include "app/HeadlessTest.h"
 #include "app/Session.h"
 #include "formats/ApeDecoder.h"
 #include "formats/ApeSource.h"
@@ -195,4 +196,44 @@ TEST(ApeSource, TagsAroundTheAudioArePassedOver) {
   ASSERT_EQ(OpenAndWait(t, tagged), 1) << t.prompt.texts().join('|').toStdString();
   EXPECT_TRUE(t.prompt.requests.empty());
   EXPECT_EQ(Md5(ReadFile(g_workPath).mid(kWorkHeaderSize)), "0e8e25eca97a3cf5294fc549e0b85cf2");
+}
+
+// The whole road of the CLI: open, worker, peak scan of the work file. The peaks are those
+// of the source signals (dB below full scale).
+TEST(ApeSource, PeakTestGivesTheSourcesPeaks) {
+  struct Case {
+    const char* file;
+    double left, right;  // dBFS; right unused for mono
+  };
+  const Case cases[] = {
+      {"s16_stereo_44k.ape", 0.00, -12.00}, {"s16_mono_48k.ape", -6.53, 0},
+      {"u8_stereo_22k.ape", 0.00, -0.07},   {"s24_stereo_96k.ape", 0.00, -10.00},
+      {"s24_stereo_96k_moderate.ape", -3.00, -10.00}, {"short_s16_stereo.ape", -6.00, -9.00},
+      {"long_s16_stereo.ape", -2.00, -0.94},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.file);
+    TestSession t;
+    const QString src = StageApe(t, c.file, "p.ape");
+    HeadlessOptions options;
+    options.testMode = 0;
+    options.showDb = 1;
+    options.useLog = false;
+    const HeadlessReport r = TestFileHeadless(*t.s, t.prompt, src, options);
+    ASSERT_TRUE(r.ok) << r.error.toStdString();
+    EXPECT_NEAR(r.result.WavPikNoClippingLeft, c.left, 0.006);
+    if (r.channels == 2) EXPECT_NEAR(r.result.WavPikNoClippingRight, c.right, 0.006);
+    EXPECT_FALSE(QFile::exists(t.Path("p.tmp")));
+  }
+}
+
+TEST(ApeSource, DamagedFileIsNotMeasured) {
+  TestSession t;
+  const QString src = StageApe(t, "s16_stereo_44k_corrupt.ape", "c.ape");
+  HeadlessOptions options;
+  options.testMode = 0;
+  options.useLog = false;
+  const HeadlessReport r = TestFileHeadless(*t.s, t.prompt, src, options);
+  EXPECT_FALSE(r.ok);
+  EXPECT_TRUE(r.error.startsWith("Sorry, but an error of opening has occurred decoding stream.")) << r.error.toStdString();
 }

@@ -2,6 +2,7 @@
 // parse, frames, the frame walk, and the VBR headers, on bytes built here.
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QList>
 #include <functional>
 #include <memory>
@@ -12,6 +13,7 @@
 #include "formats/mpeg/MPAStream.h"
 #include "formats/mpeg/VBRHeader.h"
 #include "MpegTestFrames.h"
+#include "support/TestSupport.h"
 
 using namespace mpeg_test;
 
@@ -111,20 +113,20 @@ TEST(MpegStream, NumbersAndUnreadableBytes) {
 
 TEST(MpegHeader, ParseValuesAndFrameLengths) {
   struct Case {
-    FrameSpec spec;
+    FrameBits bits;
     uint32_t bitRate, sampleRate, samples, frameSize, sideInfo;
   };
-  FrameSpec l3;  // MPEG 1 Layer III 128 kbit/s 44100 Hz
-  FrameSpec l3pad = l3;
+  FrameBits l3;  // MPEG 1 Layer III 128 kbit/s 44100 Hz
+  FrameBits l3pad = l3;
   l3pad.padding = 1;
-  FrameSpec l3mono = l3;
+  FrameBits l3mono = l3;
   l3mono.mode = 3;
-  FrameSpec l1{3, 0, 1, 1, 0, 0, 0};       // MPEG 1 Layer I 32 kbit/s 48000 Hz
-  FrameSpec l2{3, 1, 10, 2, 1, 0, 0};      // MPEG 1 Layer II 192 kbit/s 32000 Hz, padded
-  FrameSpec m2{2, 2, 8, 0, 0, 1, 0};       // MPEG 2 Layer III 64 kbit/s 22050 Hz
-  FrameSpec m2mono{2, 2, 8, 0, 0, 3, 0};
-  FrameSpec m25{0, 2, 2, 2, 0, 1, 0};      // MPEG 2.5 Layer III 16 kbit/s 8000 Hz
-  FrameSpec m2l1{2, 0, 9, 1, 0, 0, 0};     // MPEG 2 Layer I 144 kbit/s 24000 Hz
+  FrameBits l1{3, 0, 1, 1, 0, 0, 0};       // MPEG 1 Layer I 32 kbit/s 48000 Hz
+  FrameBits l2{3, 1, 10, 2, 1, 0, 0};      // MPEG 1 Layer II 192 kbit/s 32000 Hz, padded
+  FrameBits m2{2, 2, 8, 0, 0, 1, 0};       // MPEG 2 Layer III 64 kbit/s 22050 Hz
+  FrameBits m2mono{2, 2, 8, 0, 0, 3, 0};
+  FrameBits m25{0, 2, 2, 2, 0, 1, 0};      // MPEG 2.5 Layer III 16 kbit/s 8000 Hz
+  FrameBits m2l1{2, 0, 9, 1, 0, 0, 0};     // MPEG 2 Layer I 144 kbit/s 24000 Hz
   const Case cases[] = {
       {l3, 128000, 44100, 1152, 417, 32},  {l3pad, 128000, 44100, 1152, 418, 32},
       {l3mono, 128000, 44100, 1152, 417, 17}, {l1, 32000, 48000, 384, 32, 32},
@@ -133,45 +135,45 @@ TEST(MpegHeader, ParseValuesAndFrameLengths) {
       {m2l1, 144000, 24000, 384, 288, 17},
   };
   for (const Case& c : cases) {
-    QByteArray b = HeaderBytes(c.spec);
+    QByteArray b = HeaderBytes(c.bits);
     CMPAHeader h(U8(b), 0);
     EXPECT_EQ(h.bitRate, c.bitRate);
     EXPECT_EQ(h.sampleRate, c.sampleRate);
     EXPECT_EQ(h.samplesPerFrame, c.samples);
     EXPECT_EQ(h.CalcFrameSize(), c.frameSize) << c.bitRate << " " << c.sampleRate;
     EXPECT_EQ(h.GetSideInfoSize(), c.sideInfo);
-    EXPECT_EQ(h.lsf, c.spec.versionBits == 3 ? 0 : 1);
+    EXPECT_EQ(h.lsf, c.bits.versionBits == 3 ? 0 : 1);
   }
 }
 
 TEST(MpegHeader, CorruptHeadersAndLayerTwoModes) {
-  auto parseError = [](FrameSpec f) {
+  auto parseError = [](FrameBits f) {
     QByteArray b = HeaderBytes(f);
     return ErrorOf([&] { CMPAHeader h(U8(b), 0); });
   };
-  FrameSpec f;
+  FrameBits f;
   f.versionBits = 1;
   EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
-  f = FrameSpec();
+  f = FrameBits();
   f.layer = 3;  // layer bits 00
   EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
-  f = FrameSpec();
+  f = FrameBits();
   f.bitRateIndex = 15;
   EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
-  f = FrameSpec();
+  f = FrameBits();
   f.bitRateIndex = 0;
   EXPECT_EQ(parseError(f), CMPAException::FreeBitrate);
-  f = FrameSpec();
+  f = FrameBits();
   f.rateIndex = 3;
   EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
-  f = FrameSpec();
+  f = FrameBits();
   f.emphasis = 2;
   EXPECT_EQ(parseError(f), CMPAException::HeaderCorrupt);
   f.emphasis = 1;
   EXPECT_EQ(parseError(f), -1);
 
   // MPEG 1 Layer II: 32 to 56 kbit/s only in mono, 224 kbit/s and more only in stereo.
-  FrameSpec l2{3, 1, 1, 0, 0, 0, 0};
+  FrameBits l2{3, 1, 1, 0, 0, 0, 0};
   for (int mode : {0, 1, 2}) {
     l2.mode = mode;
     for (int i : {1, 2, 3}) {
@@ -191,17 +193,17 @@ TEST(MpegHeader, CorruptHeadersAndLayerTwoModes) {
     EXPECT_EQ(parseError(l2), CMPAException::HeaderCorrupt) << i;
   }
   // MPEG 2 Layer II knows no such rule.
-  FrameSpec m2l2{2, 1, 1, 0, 0, 0, 0};
+  FrameBits m2l2{2, 1, 1, 0, 0, 0, 0};
   EXPECT_EQ(parseError(m2l2), -1);
 }
 
 TEST(MpegHeader, HeadersAgreeOnVersionLayerRateMonoAndEmphasis) {
-  auto header = [](FrameSpec f) {
+  auto header = [](FrameBits f) {
     QByteArray b = HeaderBytes(f);
     return CMPAHeader(U8(b), 0);
   };
-  FrameSpec a;
-  FrameSpec b = a;
+  FrameBits a;
+  FrameBits b = a;
   b.bitRateIndex = 14;
   b.padding = 1;
   b.mode = 0;  // stereo against joint stereo: both not mono
@@ -225,7 +227,7 @@ TEST(MpegHeader, HeadersAgreeOnVersionLayerRateMonoAndEmphasis) {
 }
 
 TEST(MpegHeader, ExactSearchTriesThreeBytesEitherSide) {
-  const QByteArray h = HeaderBytes(FrameSpec());
+  const QByteArray h = HeaderBytes(FrameBits());
   // A header at `shift` from the expected place 100, in zeros.
   auto found = [&](int shift, uint32_t& where) {
     QByteArray bytes(400, '\0');
@@ -255,7 +257,7 @@ TEST(MpegHeader, ExactSearchTriesThreeBytesEitherSide) {
 
   // A bad header right at the place is an error at once, not a reason to walk on.
   QByteArray bad(400, '\0');
-  FrameSpec corrupt;
+  FrameBits corrupt;
   corrupt.emphasis = 2;
   bad.replace(100, 4, HeaderBytes(corrupt));
   bad.replace(200, 4, h);
@@ -269,21 +271,21 @@ TEST(MpegHeader, ExactSearchTriesThreeBytesEitherSide) {
 }
 
 TEST(MpegHeader, LooseSearchPassesBadAndIncompatibleHeadersAndEndsAtTheEnd) {
-  FrameSpec mono;
+  FrameBits mono;
   mono.mode = 3;
-  FrameSpec freeFormat;
+  FrameBits freeFormat;
   freeFormat.bitRateIndex = 0;
   QByteArray bytes(300, '\0');
   bytes.replace(10, 4, HeaderBytes(freeFormat));
   bytes.replace(50, 4, HeaderBytes(mono));
-  bytes.replace(200, 4, HeaderBytes(FrameSpec()));
+  bytes.replace(200, 4, HeaderBytes(FrameBits()));
   MemoryStream m(bytes);
 
   uint32_t where = 0;
   CMPAHeader any(&m.stream, where, false);
   EXPECT_EQ(where, 50u);  // free format is no acceptable header
 
-  QByteArray refBytes = HeaderBytes(FrameSpec());
+  QByteArray refBytes = HeaderBytes(FrameBits());
   CMPAHeader stereo(U8(refBytes), 0);
   where = 0;
   CMPAHeader matching(&m.stream, where, false, &stereo);
@@ -339,7 +341,7 @@ TEST(MpegFile, GetFrameBoundsAndOwnership) {
 
 TEST(MpegFile, NoFrameAtAllThrowsEndOfFile) {
   QByteArray keep;
-  FrameSpec freeFormat;
+  FrameBits freeFormat;
   freeFormat.bitRateIndex = 0;
   const QByteArray freeFrames = HeaderBytes(freeFormat) + QByteArray(400, '\0') + HeaderBytes(freeFormat);
   EXPECT_EQ(ErrorOf([&] { FileOf(freeFrames, keep); }), CMPAException::EndOfFile);
@@ -349,10 +351,10 @@ TEST(MpegFile, NoFrameAtAllThrowsEndOfFile) {
 namespace {
 
 // A first frame carrying a Xing header with `flags` at the place for its mode.
-QByteArray XingFrame(FrameSpec spec, int kbps, int rate, const char* id, uint32_t flags, uint32_t frames,
+QByteArray XingFrame(FrameBits bits, int kbps, int rate, const char* id, uint32_t flags, uint32_t frames,
                      uint32_t bytes, bool lame) {
-  QByteArray f = Frame(spec, kbps, rate);
-  CMPAHeader h(reinterpret_cast<const uint8_t*>(HeaderBytes(spec).constData()), 0);
+  QByteArray f = Frame(bits, kbps, rate);
+  CMPAHeader h(reinterpret_cast<const uint8_t*>(HeaderBytes(bits).constData()), 0);
   int at = 4 + int(h.GetSideInfoSize());
   f.replace(at, 4, id);
   PutBe32(f, at + 4, flags);
@@ -377,21 +379,21 @@ QByteArray XingFrame(FrameSpec spec, int kbps, int rate, const char* id, uint32_
 
 TEST(MpegVbrHeader, XingAndInfoStandBehindTheSideInformation) {
   struct Case {
-    FrameSpec spec;
+    FrameBits bits;
     int kbps, rate;
     uint32_t place;
   };
-  FrameSpec stereo1;
-  FrameSpec mono1;
+  FrameBits stereo1;
+  FrameBits mono1;
   mono1.mode = 3;
-  FrameSpec stereo2{2, 2, 8, 0, 0, 1, 0};
-  FrameSpec mono2{2, 2, 8, 0, 0, 3, 0};
+  FrameBits stereo2{2, 2, 8, 0, 0, 1, 0};
+  FrameBits mono2{2, 2, 8, 0, 0, 3, 0};
   const Case cases[] = {{stereo1, 128, 44100, 36}, {mono1, 128, 44100, 21}, {stereo2, 64, 22050, 21},
                         {mono2, 64, 22050, 13}};
   for (const Case& c : cases) {
     for (const char* id : {"Xing", "Info"}) {
-      QByteArray bytes = QByteArray(100, '\0') + XingFrame(c.spec, c.kbps, c.rate, id, 0xF, 1234, 99999, true);
-      bytes.append(Frame(c.spec, c.kbps, c.rate));
+      QByteArray bytes = QByteArray(100, '\0') + XingFrame(c.bits, c.kbps, c.rate, id, 0xF, 1234, 99999, true);
+      bytes.append(Frame(c.bits, c.kbps, c.rate));
       QByteArray keep;
       auto file = FileOf(bytes, keep);
       const CVBRHeader* vbr = file->GetVBRHeader();
@@ -418,7 +420,7 @@ TEST(MpegVbrHeader, XingAndInfoStandBehindTheSideInformation) {
 }
 
 TEST(MpegVbrHeader, XingFieldsFollowTheirFlagsAndOldLameTagsAreSimple) {
-  QByteArray f = XingFrame(FrameSpec(), 128, 44100, "Xing", 2 | 8, 0, 5000, false);
+  QByteArray f = XingFrame(FrameBits(), 128, 44100, "Xing", 2 | 8, 0, 5000, false);
   f.replace(36 + 120, 20, "LAME3.88 (beta)     ");
   QByteArray keep;
   auto file = FileOf(f + Mpeg1L3Frame(128), keep);
@@ -441,7 +443,7 @@ TEST(MpegVbrHeader, XingFieldsFollowTheirFlagsAndOldLameTagsAreSimple) {
 }
 
 TEST(MpegVbrHeader, VbriStandsAt36WhateverTheMode) {
-  FrameSpec mono;
+  FrameBits mono;
   mono.mode = 3;
   QByteArray f = Frame(mono, 128, 44100);
   f.replace(36, 4, "VBRI");
@@ -485,4 +487,20 @@ TEST(MpegVbrHeader, VbriStandsAt36WhateverTheMode) {
   ASSERT_NE(p, nullptr);
   EXPECT_EQ(p->toc[1], 0x0210u);
   EXPECT_EQ(p->toc[2], 0u);
+}
+
+TEST(MpegVbrHeader, LameFilesCarryTheirFrameCount) {
+  // lame writes the count of the audio frames, its own header frame left out; the version
+  // text "3.100" reads as 3.10, which has no info block.
+  CMPAFile file(testing_support::Fixture("mpeg/vbr_xing.mp3"));
+  auto* xing = dynamic_cast<const CXINGHeader*>(file.GetVBRHeader());
+  ASSERT_NE(xing, nullptr);
+  uint32_t walked = 0;
+  CMPAFrame* f = file.GetFrame(CMPAFile::Next, file.GetFrame(CMPAFile::First), true);
+  for (; f; f = file.GetFrame(CMPAFile::Next, f, true)) ++walked;
+  EXPECT_EQ(xing->frames, walked);
+  EXPECT_EQ(xing->bytes, uint32_t(QFile(testing_support::Fixture("mpeg/vbr_xing.mp3")).size()));
+  ASSERT_TRUE(xing->lameTag);
+  EXPECT_TRUE(xing->lameTag->encoder.startsWith("LAME3.100"));
+  EXPECT_TRUE(xing->lameTag->simpleTag);
 }

@@ -5,7 +5,7 @@
 
 namespace mpeg_test {
 
-struct FrameSpec {
+struct FrameBits {
   int versionBits = 3;  // 3 MPEG 1, 2 MPEG 2, 0 MPEG 2.5
   int layer = 2;        // 0 Layer I, 1 Layer II, 2 Layer III
   int bitRateIndex = 9; // 128 kbit/s for MPEG 1 Layer III
@@ -15,7 +15,7 @@ struct FrameSpec {
   int emphasis = 0;
 };
 
-inline QByteArray HeaderBytes(const FrameSpec& f) {
+inline QByteArray HeaderBytes(const FrameBits& f) {
   QByteArray h(4, '\0');
   h[0] = char(0xFF);
   h[1] = char(0xE0 | (f.versionBits << 3) | ((3 - f.layer) << 1) | 1);  // no CRC
@@ -25,7 +25,7 @@ inline QByteArray HeaderBytes(const FrameSpec& f) {
 }
 
 // The frame's length by the table values of the three layers.
-inline int FrameLength(const FrameSpec& f, int bitRateKbps, int sampleRate) {
+inline int FrameLength(const FrameBits& f, int bitRateKbps, int sampleRate) {
   const bool lsf = f.versionBits != 3;
   const int factor = f.layer == 0 ? 12 : (f.layer == 2 && lsf ? 72 : 144);
   const int slot = f.layer == 0 ? 4 : 1;
@@ -33,7 +33,7 @@ inline int FrameLength(const FrameSpec& f, int bitRateKbps, int sampleRate) {
 }
 
 // A whole frame: header, then zero bytes (zeros never look like a sync).
-inline QByteArray Frame(const FrameSpec& f, int bitRateKbps, int sampleRate) {
+inline QByteArray Frame(const FrameBits& f, int bitRateKbps, int sampleRate) {
   QByteArray b = HeaderBytes(f);
   b.append(QByteArray(FrameLength(f, bitRateKbps, sampleRate) - 4, '\0'));
   return b;
@@ -42,7 +42,7 @@ inline QByteArray Frame(const FrameSpec& f, int bitRateKbps, int sampleRate) {
 // MPEG 1 Layer III, 44100 Hz, joint stereo, at one of its bit rates.
 inline QByteArray Mpeg1L3Frame(int kbps) {
   static const int kIndex[] = {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320};
-  FrameSpec f;
+  FrameBits f;
   for (int i = 1; i < 15; ++i)
     if (kIndex[i] == kbps) f.bitRateIndex = i;
   return Frame(f, kbps, 44100);

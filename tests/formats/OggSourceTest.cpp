@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Session.h"
+#include "app/HeadlessTest.h"
 #include "formats/OggSource.h"
 #include "tests/formats/DecoderTestSupport.h"
 
@@ -109,4 +110,19 @@ TEST(OggSource, NeverWritesTheSourceAndReportsAFullDisk) {
   WaitForWorker(s);
   EXPECT_EQ(t.prompt.texts(),
             QStringList{"Sorry, but an error of write has occurred to the output file: /dev/full."});
+}
+
+// A test after the hole reads what the work file holds, though its header promises more.
+TEST(OggSource, PeakTestAfterAHoleMeasuresWhatWasWritten) {
+  TestSession t;
+  const QString src = Stage(t, "ogg_hole.ogg", "h2.ogg");
+  HeadlessOptions options;
+  options.testMode = 0;
+  options.useLog = false;
+  const HeadlessReport r = TestFileHeadless(*t.s, t.prompt, src, options);
+  EXPECT_TRUE(r.ok) << r.error.toStdString();
+  EXPECT_TRUE(t.prompt.texts().contains("Sorry, but an error of opening has occurred decoding stream."));
+  EXPECT_GT(r.result.WavLeft, 0.0f);
+  EXPECT_LT(r.result.WavLeft, 100.0f);
+  EXPECT_FALSE(QFile::exists(t.Path("h2.tmp")));
 }

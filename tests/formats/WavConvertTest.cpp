@@ -64,6 +64,13 @@ TEST_P(Conversions, ConvertToTheReferenceDecode) {
   const double frames = double(ReadFile(Fixture(ref)).size()) / (c.channels * ((c.bits + 7) / 8));
   EXPECT_EQ(s.m_durationMs, uint32_t(std::llround(frames / c.rate * 1000.0)));
   EXPECT_EQ(ReadFile(src), before);
+  // The header-only open tells the same length from the codec's block size.
+  const uint32_t converted = s.m_durationMs;
+  PrepareWav(t, src);
+  s.m_durationMs = 0;
+  s.m_noWorker = 1;
+  ASSERT_EQ(OpenWavConversion(s), 1);
+  EXPECT_EQ(s.m_durationMs, converted);
 }
 
 INSTANTIATE_TEST_SUITE_P(

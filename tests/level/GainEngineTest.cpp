@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "app/Globals.h"
+#include "app/HeadlessTest.h"
 #include "level/GainEngine.h"
 #include "level/ReplayGain.h"
+#include "log/TestLog.h"
 #include "support/TestSupport.h"
 
 using testing_support::Fixture;
@@ -75,7 +77,7 @@ TEST(ReplayGainAnalysis, MatchesReferenceAtEveryTabledRateChannelByChannel) {
     EXPECT_NEAR(f.gainRight, it.value().second, kReferenceTolerance);
     ++checked;
   }
-  EXPECT_EQ(checked, 15);  // 13 rates, pink noise, full-scale sine
+  EXPECT_EQ(checked, 17);  // 13 tabled rates, two resampled ones, pink noise, full-scale sine
 }
 
 TEST(ReplayGainAnalysis, CalibrationAndMargins) {
@@ -175,7 +177,8 @@ TEST(ReplayGainAnalysis, BlockLengthsAndTables) {
   EXPECT_EQ(LoudnessBlockLength(22050), 1103u);
   EXPECT_EQ(LoudnessBlockLength(48000), 2400u);
   EXPECT_EQ(LoudnessBlockLength(11025), 552u);
-  EXPECT_NE(FindLoudnessFilter(96000), nullptr);
+  EXPECT_NE(FindLoudnessFilter(37800), nullptr);
+  EXPECT_EQ(FindLoudnessFilter(96000), nullptr);
   EXPECT_EQ(FindLoudnessFilter(88200), nullptr);
   EXPECT_EQ(FindLoudnessFilter(50000), nullptr);
   ReplayGainAnalyser an;
@@ -341,4 +344,24 @@ TEST(GainEngineProgress, CountsTheSampleBytesItReads) {
   const unsigned long long before = g_sampleBytesRead;
   ASSERT_EQ(Rms(*t.s, Fixture("gain_44100.wav"), 2, 16).rc, kGainOk);
   EXPECT_EQ(g_sampleBytesRead - before, 2ull * 44100 * 4);
+}
+
+TEST(GainEngineHeadless, AverageOfAnMp3ThenFromTheLogWithoutReading) {
+  TestSession t;
+  CheckLogAt(*t.s, t.Path("TestLog.csv"));
+  HeadlessOptions options;
+  options.testMode = 1;
+  options.showDb = 1;
+  const HeadlessReport first = TestFileHeadless(*t.s, t.prompt, Fixture("gain_clipped.mp3"), options);
+  ASSERT_TRUE(first.ok) << first.error.toStdString();
+  ASSERT_EQ(first.levels.size(), 2u);
+  EXPECT_GT(first.sampleBytesRead, 0u);
+  EXPECT_NEAR(first.levels[0].level, 89.0 - first.result.GainLeft, 1e-4);
+  EXPECT_NEAR(first.levels[0].maxLevel, first.levels[0].level - first.result.NoClippingLeft, 1e-3);
+  EXPECT_TRUE(first.levels[0].clipping);
+  const HeadlessReport again = TestFileHeadless(*t.s, t.prompt, Fixture("gain_clipped.mp3"), options);
+  ASSERT_TRUE(again.ok);
+  EXPECT_TRUE(again.fromLog);
+  EXPECT_EQ(again.sampleBytesRead, 0u);
+  EXPECT_EQ(again.result.GainLeft, first.result.GainLeft);
 }
