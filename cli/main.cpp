@@ -6,6 +6,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
+extern "C" {
+#include <libavutil/log.h>
+}
 #include <clocale>
 #include <cmath>
 #include <cstdio>
@@ -119,6 +122,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Tonvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
   std::setlocale(LC_NUMERIC, "C");
+  // The decoders report damage through our own messages; FFmpeg's log lines would only
+  // repeat them on the console.
+  av_log_set_level(AV_LOG_QUIET);
 
   QCommandLineParser p;
   p.setApplicationDescription(

@@ -5,6 +5,9 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QTranslator>
+extern "C" {
+#include <libavutil/log.h>
+}
 #include <clocale>
 #include <cstdio>
 
@@ -20,6 +23,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
   // Numbers in files are written and read in the C locale whatever the interface language.
   std::setlocale(LC_NUMERIC, "C");
+  // The decoders report damage through our own messages; FFmpeg's log lines would only
+  // repeat them on the console.
+  av_log_set_level(AV_LOG_QUIET);
 
   SingleInstance instance;
   if (!instance.Acquire()) {
