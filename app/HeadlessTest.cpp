@@ -174,7 +174,9 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
     if (ReadInPlace(s, mode)) {
       g_workPath = g_sourcePath;
     } else {
+      const LevelResult carried = s.m_result;  // the groups a partial row keeps
       ResetFile(s);
+      s.m_result = carried;
       s.m_testMode = mode;
       s.m_showDb = options.showDb;
       if (!OpenFileHeadless(s, full))

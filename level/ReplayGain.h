@@ -37,7 +37,8 @@ class ReplayGainAnalyser {
   ReplayGainAnalyser(const ReplayGainAnalyser&) = delete;
   ReplayGainAnalyser& operator=(const ReplayGainAnalyser&) = delete;
 
-  // channels 1 or 2. False for a rate of 0 or below, or when the resampler cannot start.
+  // channels 1 or 2. False for a rate below 1 kHz or above 1.536 MHz, or when the
+  // resampler cannot start.
   bool Init(int sampleRate, int channels);
   // `frames` frames of interleaved samples on the 16-bit scale.
   void Process(const double* samples, size_t frames);

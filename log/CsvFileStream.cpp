@@ -300,3 +300,24 @@ QByteArray CsvFileStream::ReadRaw(int64_t offset, int64_t count) {
   out.resize(have);
   return out;
 }
+
+int64_t CsvFileStream::ReadRawInto(QByteArray& out, int64_t offset, int64_t count) {
+  if (m_fd < 0 || offset < 0 || count < 0) return -1;
+  if (!m_pending.isEmpty() && !Flush()) return -1;
+  const qsizetype old = out.size();
+  out.resize(old + count);
+  int64_t have = 0;
+  while (have < count) {
+    ssize_t n = ::pread(m_fd, out.data() + old + have, size_t(count - have), offset + have);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) {
+      m_errno = errno;
+      out.resize(old + have);
+      return -1;
+    }
+    if (n == 0) break;
+    have += n;
+  }
+  out.resize(old + have);
+  return have;
+}

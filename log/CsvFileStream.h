@@ -62,6 +62,8 @@ class CsvFileStream {
   bool Truncate(int64_t size);
   // Raw bytes at an offset, outside the stream's position.
   QByteArray ReadRaw(int64_t offset, int64_t count);
+  // Appends up to `count` raw bytes at `offset` to `out`; the number read, or -1.
+  int64_t ReadRawInto(QByteArray& out, int64_t offset, int64_t count);
 
   // The bytes WriteString puts on disk for a text.
   static QByteArray Encode(const QString& text);

@@ -132,21 +132,25 @@ void TestLog::CloseLog() {
   m_open = false;
   m_headerRead = false;
   m_indexed = false;
+  m_lookups = 0;
+  m_missPath.clear();
   m_index.clear();
   m_rowPath.clear();
   m_rowOffset = -1;
   m_rowFresh = false;
 }
 
-// The index holds the first record of each key path. A line counts as a record when it
-// has exactly 18 cells and ends in a line feed: filler lines, junk, rows with too many or
-// too few cells and a last line cut short are passed over, so one bad line neither hides
-// the records behind it nor gives a row with missing cells. Plain lines are split here;
-// lines with a string delimiter go through the CSV engine itself, since a quoted cell may
-// hold commas and line feeds.
-bool TestLog::BuildIndex() {
-  m_index.clear();
-  m_indexed = false;
+// Records are walked from byte 226 in file order. A line counts as a record when it has
+// exactly 18 cells and ends in a line feed: filler lines, junk, rows with too many or too
+// few cells and a last line cut short are passed over, so one bad line neither hides the
+// records behind it nor gives a row with missing cells. Plain lines are split here, on the
+// bytes; lines with a string delimiter go through the CSV engine itself, since a quoted cell
+// may hold commas and line feeds. `visit(offset, key)` gets each record's key path and
+// returns true to stop; a plain line's key comes as its first cell's bytes, untrimmed, so
+// that a look-up can compare bytes without making a string of every key, and
+// `visit.Wants(bytes, size)` may pass over such a line before its cells are counted.
+template <class Visit>
+bool TestLog::WalkRecords(Visit& visit) {
   COXCsvFile scratch(*m_stream);
   scratch.SetColumnNames(LogColumnNames());
   constexpr int64_t kChunk = 1 << 20;
@@ -168,10 +172,9 @@ bool TestLog::BuildIndex() {
       bufAt += off;
       off = 0;
       const qsizetype old = buf.size();
-      QByteArray more = m_stream->ReadRaw(bufAt + old, kChunk);
-      if (m_stream->LastErrno() != 0) return false;
-      if (more.size() < kChunk) eof = true;
-      buf += more;
+      const int64_t got = m_stream->ReadRawInto(buf, bufAt + old, kChunk);
+      if (got < 0) return false;
+      if (got < kChunk) eof = true;
       nl = static_cast<const char*>(std::memchr(buf.constData() + old, '\n', size_t(buf.size() - old)));
     }
     if (!nl) break;  // the end, or a last line without a line feed
@@ -187,8 +190,7 @@ bool TestLog::BuildIndex() {
       if (m_stream->LastErrno() != 0) return false;
       const int64_t after = scratch.GetNextRowPosition();
       if (ok && scratch.CellCount() == kLogColumns && m_stream->LineTerminator() > 0 && after > pos) {
-        const QString& key = scratch.Columns()[kFileName].m_data;
-        if (!m_index.contains(key)) m_index.insert(key, pos);
+        if (visit(pos, RecordKey{nullptr, 0, &scratch.Columns()[kFileName].m_data})) return true;
         pos = after;
       } else {
         // A stray quote would pair with the next one and hide the lines between them:
@@ -198,14 +200,88 @@ bool TestLog::BuildIndex() {
       continue;
     }
     const char* comma = static_cast<const char*>(std::memchr(begin, ',', size_t(len)));
-    if (comma && std::count(begin, begin + len, ',') == kLogColumns - 1) {
-      const QString key = QString::fromUtf8(begin, comma - begin).trimmed();
-      if (!m_index.contains(key)) m_index.insert(key, pos);
-    }
+    if (comma && visit.Wants(begin, comma - begin) && std::count(comma, begin + len, ',') == kLogColumns - 1 &&
+        visit(pos, RecordKey{begin, comma - begin, nullptr}))
+      return true;
     pos = next;
   }
-  m_indexed = true;
   return true;
+}
+
+namespace {
+
+struct IndexVisitor {
+  QHash<QString, int64_t>& index;
+  bool Wants(const char*, qsizetype) const { return true; }
+  template <class Key>
+  bool operator()(int64_t pos, const Key& k) {
+    const QString key = k.text ? *k.text : QString::fromUtf8(k.bytes, k.size).trimmed();
+    if (!index.contains(key)) index.insert(key, pos);
+    return false;
+  }
+};
+
+}  // namespace
+
+bool TestLog::BuildIndex() {
+  m_index.clear();
+  IndexVisitor v{m_index};
+  m_indexed = WalkRecords(v);
+  return m_indexed;
+}
+
+namespace {
+
+bool IsAsciiSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+}  // namespace
+
+namespace {
+
+// Finds the first record of one key path by its bytes.
+struct ScanVisitor {
+  explicit ScanVisitor(const QString& path)
+      : path(path),
+        want(path.toUtf8()),
+        keyHasMark(path.contains(QChar(QChar::ReplacementCharacter))),
+        keyTrimmed(path == path.trimmed()) {}
+
+  // An unquoted cell loses its white space at both ends, so a path with some never
+  // matches one. Bytes that differ may still read as the same text: white space beyond
+  // ASCII around the cell, or bytes that are not UTF-8 against a replacement mark.
+  bool Wants(const char* bytes, qsizetype size) const {
+    if (!keyTrimmed) return false;
+    const char* b = bytes;
+    const char* e = bytes + size;
+    while (b < e && IsAsciiSpace(*b)) ++b;
+    while (e > b && IsAsciiSpace(e[-1])) --e;
+    if (e - b == want.size() && std::memcmp(b, want.constData(), size_t(want.size())) == 0) return true;
+    if (e == b || !(keyHasMark || ((uchar(*b) >= 0x80 || uchar(e[-1]) >= 0x80) && e - b > want.size())))
+      return false;
+    return QString::fromUtf8(bytes, size).trimmed() == path;
+  }
+  template <class Key>
+  bool operator()(int64_t pos, const Key& k) {
+    if (k.text && *k.text != path) return false;
+    found = pos;
+    return true;
+  }
+
+  const QString& path;
+  const QByteArray want;
+  const bool keyHasMark;
+  const bool keyTrimmed;
+  int64_t found = -1;
+};
+
+}  // namespace
+
+// The first record of `path`, by one walk that stops there; -1 when there is none.
+bool TestLog::ScanFor(const QString& path, int64_t& found) {
+  ScanVisitor v(path);
+  const bool ok = WalkRecords(v);
+  found = v.found;
+  return ok;
 }
 
 // Reads the record at `offset` and notes how much room a rewrite has there: the row, and
@@ -233,18 +309,32 @@ bool TestLog::LoadRow(int64_t offset, const QString& path) {
 }
 
 RowState TestLog::FindRow(const QString& path) {
+  m_missPath.clear();
   m_rowPath.clear();
   m_rowOffset = -1;
   m_rowFresh = false;
   m_carried = LevelResult{};
   if (!m_open || !m_headerRead) return RowState::Miss;
-  if (!m_indexed && !BuildIndex()) {
+  // One look-up walks the file once and stops at the row; a second one in the same open (a
+  // batch run) builds an index of every key, so each later file costs no walk at all.
+  int64_t offset = -1;
+  bool ok;
+  if (m_indexed || m_lookups > 0) {
+    ok = m_indexed || BuildIndex();
+    if (ok) offset = m_index.value(path, -1);
+  } else {
+    ok = ScanFor(path, offset);
+  }
+  ++m_lookups;
+  if (!ok) {
     ReportError(m_stream->LastErrno());
     return RowState::Miss;
   }
-  auto it = m_index.constFind(path);
-  if (it == m_index.constEnd()) return RowState::Miss;
-  if (!LoadRow(*it, path)) {
+  if (offset < 0) {
+    m_missPath = path;
+    return RowState::Miss;
+  }
+  if (!LoadRow(offset, path)) {
     if (m_stream->LastErrno() != 0) ReportError(m_stream->LastErrno());
     return RowState::Miss;
   }
@@ -341,7 +431,7 @@ bool TestLog::AppendRecord(const QString& line, const QString& path) {
   m_stream->WriteString(line);
   m_stream->WriteString(QString(kLogFillerAppend, u' ') + u'\n');
   if (!m_stream->FlushCommitted()) return false;
-  m_index.insert(path, end);
+  if (m_indexed) m_index.insert(path, end);
   return true;
 }
 
@@ -349,14 +439,24 @@ bool TestLog::WriteRow(const QString& path, LogTest test, RowState outcome, cons
   if (!m_open || !m_headerRead) return false;
   Stamp stamp;
   if (!StampOf(path, stamp)) return false;
-  if (!m_indexed && !BuildIndex()) {
+  // Where the path has a record, the found row tells it; else one walk finds it.
+  int64_t existing = -1;
+  if (m_indexed) {
+    existing = m_index.value(path, -1);
+  } else if (m_rowPath == path && m_rowOffset >= 0) {
+    existing = m_rowOffset;
+  } else if (m_missPath == path) {
+    existing = -1;
+  } else if (!ScanFor(path, existing)) {
     ReportError(m_stream->LastErrno());
     return false;
   }
 
   const bool mp3 = m_s.m_sourceKind == kKindMp3;
   LevelResult row;  // the no-result marks
-  if (outcome == RowState::Fresh && m_rowFresh && m_rowPath == path) row = m_carried;
+  // After a Partial the other groups stay as they were: as ReadResult carried them in this
+  // open, or, when the row was read in an earlier open, as the caller hands them back.
+  if (outcome == RowState::Fresh) row = m_rowFresh && m_rowPath == path ? m_carried : values;
   switch (test) {
     case LogTest::Gain:
       row.GainLeft = values.GainLeft;
@@ -394,11 +494,10 @@ bool TestLog::WriteRow(const QString& path, LogTest test, RowState outcome, cons
   // old row and its filler; else the old record is blanked and the new one appended, so a
   // write never reaches into the next record.
   bool ok;
-  auto it = m_index.constFind(path);
-  if (it == m_index.constEnd()) {
+  if (existing < 0) {
     ok = AppendRecord(line, path);
   } else {
-    const int64_t offset = *it;
+    const int64_t offset = existing;
     if (m_rowPath != path || m_rowOffset != offset) LoadRow(offset, path);
     if (m_rowOffset != offset) {
       ok = false;
@@ -413,6 +512,7 @@ bool TestLog::WriteRow(const QString& path, LogTest test, RowState outcome, cons
   }
   m_rowFresh = false;
   m_rowPath.clear();
+  m_missPath.clear();
   if (!ok) ReportError(m_stream->LastErrno());
   return ok;
 }

@@ -48,8 +48,9 @@ class TestLog {
   // values (kept for the WriteRow that follows). MP3 rows (m_sourceKind) are always a Hit.
   ReadOutcome ReadResult(LogTest test, LevelResult& values);
   // After a measurement: writes this test's group of `values` for the path. The other
-  // groups are carried over after a Partial (outcome Fresh), else marked absent. False when
-  // nothing could be written (a message has been shown for a file error).
+  // groups are carried over after a Partial (outcome Fresh): from ReadResult in this open,
+  // else from `values`; after Miss or Stale they are marked absent. False when nothing
+  // could be written (a message has been shown for a file error).
   bool WriteRow(const QString& path, LogTest test, RowState outcome, const LevelResult& values);
   void CloseLog();
   bool IsOpen() const { return m_open; }
@@ -64,7 +65,15 @@ class TestLog {
   int64_t FoundRowOffset() const { return m_rowOffset; }
 
  private:
+  struct RecordKey {
+    const char* bytes;    // a plain line's first cell, as it stands
+    qsizetype size;
+    const QString* text;  // or the cell as the CSV engine read it
+  };
+  template <class Visit>
+  bool WalkRecords(Visit& visit);
   bool BuildIndex();
+  bool ScanFor(const QString& path, int64_t& found);
   bool LoadRow(int64_t offset, const QString& path);
   bool ReadGroups(LevelResult& v, bool gain, bool wav, bool wavPik);
   bool AppendRecord(const QString& line, const QString& path);
@@ -78,8 +87,10 @@ class TestLog {
   std::unique_ptr<COXCsvFile> m_csv;
   // First record of each key path (byte offset), built once per open.
   bool m_indexed = false;
+  int m_lookups = 0;
   QHash<QString, int64_t> m_index;
-  // The row found last.
+  // The path FindRow missed last, and the row it found last.
+  QString m_missPath;
   QString m_rowPath;
   int64_t m_rowOffset = -1;
   int64_t m_rowBytes = 0;  // the row with its line end

@@ -32,3 +32,9 @@ enc "$tmp/src_16_2.wav" aac_adts.aac -c:a aac -b:a 128k -aac_pns 0 -f adts
 
 # The same stream behind an ID3v2.3 tag with one title frame (22 bytes).
 { printf 'ID3\003\000\000\000\000\000\026'; printf 'TIT2\000\000\000\014\000\000\000Test title!'; cat aac_adts.aac; } > aac_id3.aac
+
+# Small files with the movie in front, as seeds for the fuzz targets (their inputs are cut
+# at 256 KiB, which would lose a movie at the end).
+sox -R -n -b 16 -c 2 -r 44100 "$tmp/short.wav" synth 0.25 pinknoise vol 0.5
+enc "$tmp/short.wav" alac_seed.m4a -c:a alac -movflags +faststart
+enc "$tmp/short.wav" aac_seed.m4a -c:a aac -b:a 96k -aac_pns 0 -movflags +faststart

@@ -77,7 +77,7 @@ TEST(ReplayGainAnalysis, MatchesReferenceAtEveryTabledRateChannelByChannel) {
     EXPECT_NEAR(f.gainRight, it.value().second, kReferenceTolerance);
     ++checked;
   }
-  EXPECT_EQ(checked, 15);  // 13 rates, pink noise, full-scale sine
+  EXPECT_EQ(checked, 17);  // 13 tabled rates, two resampled ones, pink noise, full-scale sine
 }
 
 TEST(ReplayGainAnalysis, CalibrationAndMargins) {
@@ -177,7 +177,8 @@ TEST(ReplayGainAnalysis, BlockLengthsAndTables) {
   EXPECT_EQ(LoudnessBlockLength(22050), 1103u);
   EXPECT_EQ(LoudnessBlockLength(48000), 2400u);
   EXPECT_EQ(LoudnessBlockLength(11025), 552u);
-  EXPECT_NE(FindLoudnessFilter(96000), nullptr);
+  EXPECT_NE(FindLoudnessFilter(37800), nullptr);
+  EXPECT_EQ(FindLoudnessFilter(96000), nullptr);
   EXPECT_EQ(FindLoudnessFilter(88200), nullptr);
   EXPECT_EQ(FindLoudnessFilter(50000), nullptr);
   ReplayGainAnalyser an;

@@ -202,14 +202,39 @@ TEST(TestLogFile, ThreeTestsOfOneFileFillAllThreeGroups) {
   EXPECT_EQ(v.GainRight, 86.25f);
   EXPECT_EQ(v.NoClippingLeft, -1.5f);
   EXPECT_EQ(SizeOf(t.s->m_logPath), size);  // all rewrites in place
+  // The look-up and the write in two opens, as a flow that closes the log while it
+  // measures: the caller hands the carried groups back.
+  const QString c = MakeSource(t, "c.flac");
+  RunTest(t, c, LogTest::Wav, Wav(10, 20));
+  LevelResult carried;
+  {
+    TestLog l(*t.s);
+    l.OpenLog();
+    ASSERT_EQ(l.FindRow(c), RowState::Fresh);
+    ASSERT_EQ(l.ReadResult(LogTest::Gain, carried), ReadOutcome::Partial);
+  }
+  EXPECT_EQ(carried.WavRight, 20.0f);
+  carried.GainLeft = carried.GainRight = 70;
+  carried.NoClippingLeft = carried.NoClippingRight = 1;
+  {
+    TestLog l(*t.s);
+    l.OpenLog();
+    EXPECT_TRUE(l.WriteRow(c, LogTest::Gain, RowState::Fresh, carried));
+  }
+  LevelResult v2;
+  EXPECT_TRUE(RunTest(t, c, LogTest::Wav, {}, &v2));
+  EXPECT_EQ(v2.WavLeft, 10.0f);
+  EXPECT_TRUE(RunTest(t, c, LogTest::Gain, {}, &v2));
+  EXPECT_EQ(v2.GainLeft, 70.0f);
 
   LevelResult all;
+  const QByteArray bytes = ReadFile(t.s->m_logPath);
   TestLog l(*t.s);
   EXPECT_TRUE(l.LookUpForList(a, all));
   EXPECT_EQ(all.WavLeft, 50.0f);
   EXPECT_EQ(all.WavPikLeft, -6.0f);
   EXPECT_EQ(all.GainLeft, 85.5f);
-  EXPECT_EQ(SizeOf(t.s->m_logPath), size);
+  EXPECT_EQ(ReadFile(t.s->m_logPath), bytes);  // a look-up writes nothing
   SetStamp(a, 1);
   EXPECT_FALSE(l.LookUpForList(a, all));
 }
@@ -354,6 +379,18 @@ TEST(TestLogFile, HandEditedLogsReadWithADefinedOutcome) {
   EXPECT_EQ(v.WavLeft, 11.0f);
   EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
   EXPECT_EQ(v.WavRight, 22.0f);
+  {
+    // A batch keeps the log open: the second look-up goes through the index of every key,
+    // which must agree with the walk.
+    TestLog l(*t.s);
+    ASSERT_TRUE(l.OpenLog());
+    EXPECT_EQ(l.FindRow(b), RowState::Fresh);
+    const int64_t bOffset = l.FoundRowOffset();
+    EXPECT_EQ(l.FindRow(a), RowState::Fresh);
+    EXPECT_EQ(l.FindRow(b), RowState::Fresh);
+    EXPECT_EQ(l.FoundRowOffset(), bOffset);
+    EXPECT_EQ(l.FindRow(t.Path("c.wav")), RowState::Miss);
+  }
   EXPECT_EQ(ReadFile(log), edited);
 
   // A log that ends in a row cut short: the cut row is no record, and a new record starts
