@@ -284,6 +284,7 @@ int ParseHeader(const uint8_t* data, uint64_t size, StreamInfo& info) {
   if (descriptorBytes < 52 || headerBytes < 24) return kErrInvalidInput;
 
   const uint64_t headerAt = junk + descriptorBytes;
+  info.headerOffset = headerAt;
   if (headerAt + 24 > size) return kErrInvalidInput;
   const uint8_t* h = data + headerAt;
   info.compressionLevel = Le16(h + 0);

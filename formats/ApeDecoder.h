@@ -76,6 +76,7 @@ struct StreamInfo {
   uint32_t wavHeaderBytes = 0;
   uint32_t terminatingBytes = 0;
   uint64_t junkBytes = 0;        // an ID3v2 tag or other bytes before the descriptor
+  uint64_t headerOffset = 0;     // absolute offset of the header after the descriptor
   uint64_t frameDataStart = 0;   // absolute offsets in the file
   uint64_t frameDataEnd = 0;
   std::vector<uint64_t> seekTable;  // absolute offset of each frame

@@ -447,16 +447,23 @@ int ScanPeakLevels(Session& s) {
     const int err = path.isEmpty() ? ENOENT : file.LastErrno();
     ReportFileError(s, TR(" open a temporary copy of the file "), s.m_fileName,
                     TR("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
+    s.StopTest();
     return 1;
   }
   const uint64_t size = file.Size();
   s.m_fileSize = uint32_t(size);
   s.m_fileSizeHigh = uint32_t(size >> 32);
-  if (size == 0) return 1;
+  if (size == 0) {
+    s.StopTest();
+    return 1;
+  }
   if (s.m_allocGranularity == 0) s.m_allocGranularity = kAllocGranularity;
   const uint64_t w = uint64_t(s.m_allocGranularity) * 1600;
   s.m_windowedMapping = size > w ? 1 : 0;
-  if (s.m_dataSize == 0 && !FindSoundData(s, file, s.m_windowedMapping)) return 1;
+  if (s.m_dataSize == 0 && !FindSoundData(s, file, s.m_windowedMapping)) {
+    s.StopTest();
+    return 1;
+  }
 
   SampleBlock block;
   if (!ChooseSampleBlock(s.m_channels, s.m_bits, s.m_formatTag, block)) {
@@ -478,7 +485,10 @@ int ScanPeakLevels(Session& s) {
     if (!pass.mapped) break;
     uint64_t viewLength = pass.mapLength;
     const uint8_t* view = MapAt(file, pass.mapOffset, viewLength);
-    if (!view) return 1;
+    if (!view) {
+      s.StopTest();
+      return 1;
+    }
     s.m_mappedView = view;
     // The frames of this pass, cut to what the view holds.
     const uint64_t viewEnd = pass.mapOffset + viewLength;
@@ -495,6 +505,7 @@ int ScanPeakLevels(Session& s) {
       if (!scan.KeepGoing()) {
         file.Unmap();
         s.m_mappedView = nullptr;
+        s.StopTest();
         return 1;
       }
       uint64_t n = std::min(frames, kPumpFrames);
@@ -511,7 +522,10 @@ int ScanPeakLevels(Session& s) {
     }
     file.Unmap();
     s.m_mappedView = nullptr;
-    if (!scan.KeepGoing()) return 1;
+    if (!scan.KeepGoing()) {
+      s.StopTest();
+      return 1;
+    }
   }
   WriteLevels(s, x, block.bits, block.channels == 2);
   return 0;

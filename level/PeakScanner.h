@@ -11,8 +11,8 @@ struct Session;
 // levels in the session: m_levelLeft/Right in the current scale and, in dB mode,
 // m_noClipDbLeft/Right (mono files leave the right ones as they were). Finds the data chunk
 // first when m_dataSize is 0. 0 when the scan ran to its end, 1 when it stopped (the file
-// could not be opened or mapped, had no sound data, or the user cancelled); the caller then
-// ends the test and drops the partial values.
+// could not be opened or mapped, had no sound data, or the user cancelled), after StopTest;
+// the caller then closes the work file and drops the partial values.
 int ScanPeakLevels(Session& s);
 
 // The text of the question for a work file without a data chunk.

@@ -221,8 +221,11 @@ int OpenMp3(Session& s) {
     if (s.m_navigating == 0) {
       s.m_statusText = TR("  Test is stopped");
       if (s.m_prompt.Ask(UnsupportedQuestion(path))) {
+        // Let go of the file and offer the open dialog again.
+        CloseWorkFile(s);
         ClearSessionPaths();
-        for (QString& line : s.m_propertyLines) line.clear();
+        ClearFileDisplay(s);
+        OnFileOpen(s);
       } else {
         s.m_fileNotOpened = 1;
       }

@@ -259,6 +259,7 @@ TEST(PeakScanner, DataChunkFoundOrQuestioned) {
   qToLittleEndian<uint32_t>(uint32_t(none.size() - 8), none.data() + 4);
   n.Prepare(none, 2, 16, 1, 0, 0);
   n.s.m_fileName = QStringLiteral("/music/שלום, \"x\".wav");
+  n.s.m_testRunning = 1;
   EXPECT_EQ(n.BytesOf(1), 0u);
   ASSERT_EQ(n.t.prompt.requests.size(), 1u);
   EXPECT_TRUE(n.t.prompt.requests[0].yesNo);
@@ -266,7 +267,7 @@ TEST(PeakScanner, DataChunkFoundOrQuestioned) {
             "Sorry, but the test is stopped as the file /music/שלום, \"x\".wav is empty and does not "
             "contain a sound data. Please, select another file.\nDo You want to open a dialog of "
             "selection a file?");
-  EXPECT_EQ(n.s.m_statusText, "  Test is stopped");
+  EXPECT_EQ(n.s.m_testRunning, 0);
   EXPECT_EQ(n.s.m_levelLeft, -1.0f);
 
   // "data" whose tag starts past limit - 11 is too late to be found.
@@ -439,12 +440,14 @@ TEST(PeakScanner, CancelExitAndPause) {
 
   Scanner c;
   c.PrepareWav(2, 16, 1, data);
+  c.s.m_testRunning = 1;
   c.t.pump.onPump = [&](int call) {
     if (call == 2) c.s.m_cancelRequested = 1;
   };
   EXPECT_LT(c.BytesOf(1), unsigned(data.size()));
   EXPECT_EQ(c.s.m_levelLeft, -1.0f);
   EXPECT_EQ(c.s.m_cancelRequested, 0);  // reported once
+  EXPECT_EQ(c.s.m_testRunning, 0);      // the test is ended
 
   Scanner e;
   e.PrepareWav(2, 16, 1, data);
