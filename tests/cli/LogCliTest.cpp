@@ -45,10 +45,11 @@ class LogCli : public ::testing::Test {
     qputenv("XDG_CONFIG_HOME", dir.filePath("config").toUtf8());
     qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
     log = dir.filePath("Test Log, \"mine\".csv");
-    // Sources with names a log must quote; sox writes FLAC, the CLI decodes it to a work file.
-    files = {dir.filePath("Prøve, \"one\".flac"), dir.filePath("שלום two.flac")};
-    const char* synth[] = {"sine 440 vol 0.5", "sine 1000 vol 0.25"};
-    for (int i = 0; i < 2; ++i)
+    // Sources with names a log must quote: FLAC, which the CLI decodes to a work file, and
+    // WAV, which it reads in place.
+    files = {dir.filePath("Prøve, \"one\".flac"), dir.filePath("שלום two.flac"), dir.filePath(" 🤔 three.wav")};
+    const char* synth[] = {"sine 440 vol 0.5", "sine 1000 vol 0.25", "sine 300 vol 0.125"};
+    for (int i = 0; i < 3; ++i)
       ASSERT_EQ(RunShell("sox -R -n -b 16 -c 2 -r 44100 " + Quote(files[i]) + " synth 0.5 " + synth[i]), 0);
   }
   QString LogArgs() const { return "--log " + Quote(log); }
@@ -67,7 +68,7 @@ double Level(const QJsonObject& o, int channel) {
 TEST_F(LogCli, SecondRunAnswersFromTheLogAndReadsNoSamples) {
   CliRun first = RunCli("--peak " + LogArgs(), files);
   ASSERT_EQ(first.status, 0);
-  ASSERT_EQ(first.files.size(), 2u);
+  ASSERT_EQ(first.files.size(), 3u);
   for (const QJsonObject& o : first.files) {
     EXPECT_FALSE(o["fromLog"].toBool());
     EXPECT_GT(o["sampleBytesRead"].toDouble(), 0);
@@ -77,8 +78,8 @@ TEST_F(LogCli, SecondRunAnswersFromTheLogAndReadsNoSamples) {
   EXPECT_TRUE(logAfterFirst.contains(("\"" + QString(files[0]).replace("\"", "\"\"") + "\",").toUtf8()));
 
   CliRun second = RunCli("--peak " + LogArgs(), files);
-  ASSERT_EQ(second.files.size(), 2u);
-  for (int i = 0; i < 2; ++i) {
+  ASSERT_EQ(second.files.size(), 3u);
+  for (int i = 0; i < 3; ++i) {
     EXPECT_TRUE(second.files[i]["fromLog"].toBool()) << i;
     EXPECT_EQ(second.files[i]["sampleBytesRead"].toDouble(), 0) << i;
     EXPECT_EQ(Level(second.files[i], 0), Level(first.files[i], 0));
@@ -88,23 +89,33 @@ TEST_F(LogCli, SecondRunAnswersFromTheLogAndReadsNoSamples) {
 
   // --no-log measures again and leaves the log alone.
   CliRun fresh = RunCli("--peak --no-log " + LogArgs(), files);
-  ASSERT_EQ(fresh.files.size(), 2u);
-  EXPECT_FALSE(fresh.files[0]["fromLog"].toBool());
-  EXPECT_GT(fresh.files[0]["sampleBytesRead"].toDouble(), 0);
+  ASSERT_EQ(fresh.files.size(), 3u);
+  for (const QJsonObject& o : fresh.files) {
+    EXPECT_FALSE(o["fromLog"].toBool());
+    EXPECT_GT(o["sampleBytesRead"].toDouble(), 0);
+  }
   EXPECT_EQ(ReadFile(log), logAfterFirst);
 }
 
 TEST_F(LogCli, OtherScaleMeasuresOnceThenAllAreKnownAndAChangedFileIsMeasuredAgain) {
-  RunCli("--peak " + LogArgs(), {files[0]});
+  const QStringList tests = {"--peak", "--peak --db", "--average"};
+  for (const QString& f : {files[0], files[2]}) {
+    for (const QString& args : tests) {
+      CliRun first = RunCli(args + " " + LogArgs(), {f});
+      ASSERT_EQ(first.files.size(), 1u);
+      EXPECT_TRUE(first.files[0]["ok"].toBool()) << args.toStdString();
+      EXPECT_FALSE(first.files[0]["fromLog"].toBool()) << args.toStdString();
+    }
+  }
   const qint64 size = ReadFile(log).size();
-  CliRun db = RunCli("--peak --db " + LogArgs(), {files[0]});
-  ASSERT_EQ(db.files.size(), 1u);
-  EXPECT_FALSE(db.files[0]["fromLog"].toBool());
-  for (const char* args : {"--peak", "--peak --db"}) {
-    CliRun again = RunCli(QString(args) + " " + LogArgs(), {files[0]});
-    ASSERT_EQ(again.files.size(), 1u);
-    EXPECT_TRUE(again.files[0]["fromLog"].toBool()) << args;
-    EXPECT_EQ(again.files[0]["sampleBytesRead"].toDouble(), 0) << args;
+  // Each test filled its own group of the one row: now all three are known.
+  for (const QString& f : {files[0], files[2]}) {
+    for (const QString& args : tests) {
+      CliRun again = RunCli(args + " " + LogArgs(), {f});
+      ASSERT_EQ(again.files.size(), 1u);
+      EXPECT_TRUE(again.files[0]["fromLog"].toBool()) << args.toStdString();
+      EXPECT_EQ(again.files[0]["sampleBytesRead"].toDouble(), 0) << args.toStdString();
+    }
   }
   EXPECT_EQ(ReadFile(log).size(), size);  // rewritten in place
 
@@ -121,7 +132,7 @@ TEST_F(LogCli, LogHeldByAnotherProcessIsPassedOver) {
   // flock(1) holds the log's lock while the CLI runs, as the window does during a test.
   CliRun locked = RunCli("--peak " + LogArgs(), files, "flock " + Quote(log) + " ");
   ASSERT_EQ(locked.status, 0);
-  ASSERT_EQ(locked.files.size(), 2u);
+  ASSERT_EQ(locked.files.size(), 3u);
   for (const QJsonObject& o : locked.files) {
     EXPECT_TRUE(o["ok"].toBool());
     EXPECT_FALSE(o["fromLog"].toBool());
