@@ -36,6 +36,7 @@
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
 #include "level/LevelDisplay.h"
+#include "log/TestLog.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ CBrenlowv10Dlg::CBrenlowv10Dlg(const QString& commandLineFile, QWidget* parent)
   m_s.m_prompt.SetUi(&m_promptUi);
   m_s.m_pump = &m_pumpUi;
   m_s.LoadSettings();
+  CheckLogAtStart(m_s);  // creates the log when missing and applies the size cap
 
   setWindowTitle(tonvane::kAppTitle);
   setObjectName("CBrenlowv10Dlg");
