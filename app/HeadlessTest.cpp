@@ -54,15 +54,19 @@ LogTest GroupOf(int testMode, int showDb) {
 }
 
 // Moves the values of a peak scan or of a log row between the result and the session.
+// A mono file fills the left forms only; the right ones keep their not-measured marks.
 void PeakToResult(Session& s) {
+  const bool stereo = s.m_channels != 1;
   if (s.m_showDb) {
     s.m_result.WavPikLeft = s.m_levelLeft;
-    s.m_result.WavPikRight = s.m_levelRight;
     s.m_result.WavPikNoClippingLeft = s.m_noClipDbLeft;
-    s.m_result.WavPikNoClippingRight = s.m_noClipDbRight;
+    if (stereo) {
+      s.m_result.WavPikRight = s.m_levelRight;
+      s.m_result.WavPikNoClippingRight = s.m_noClipDbRight;
+    }
   } else {
     s.m_result.WavLeft = s.m_levelLeft;
-    s.m_result.WavRight = s.m_levelRight;
+    if (stereo) s.m_result.WavRight = s.m_levelRight;
   }
 }
 void ResultToPeak(Session& s) {
