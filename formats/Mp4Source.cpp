@@ -1,12 +1,11 @@
 #include "formats/Mp4Source.h"
 
-#include <unistd.h>
-
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
 #include "formats/AacDecode.h"
 #include "formats/AacFile.h"
+#include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
 
 int OpenMp4(Session& s) {
@@ -48,10 +47,7 @@ int OpenMp4(Session& s) {
   s.m_durationMs = durationMs;
   s.m_scaleLabel = TR("100% = 89 dB");
 
-  if (g_workFile >= 0) {
-    ::close(g_workFile);
-    g_workFile = -1;
-  }
+  CloseWorkFile(s);
   const QString work = g_workPath;
   if (!s.m_noWorker && !CreateEmptyWorkFile(work, g_sourcePath)) {
     s.m_prompt.Message(CannotBeCreatedText(work), PromptIcon::Error);
