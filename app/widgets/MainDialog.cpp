@@ -23,6 +23,7 @@
 #include <QSlider>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QTimerEvent>
 #include <QToolBar>
 #include <QToolButton>
@@ -78,6 +79,9 @@ CBrenlowv10Dlg::CBrenlowv10Dlg(const QString& commandLineFile, QWidget* parent)
   };
   RenderFromSession();
   m_timer1 = startTimer(100);  // timer 1: the enabling rules, for the whole life of the window
+  // A file named on the command line is opened half a second after the window shows.
+  if (!m_commandLineFile.isEmpty())
+    QTimer::singleShot(500, this, [this] { OpenByName(m_commandLineFile); });
 }
 
 CBrenlowv10Dlg::~CBrenlowv10Dlg() = default;

@@ -235,3 +235,25 @@ TEST(OpenPipeline, FileListAndDialogFilters) {
   EXPECT_EQ(filters[0].first, "All Files (*.*)");
   EXPECT_EQ(filters[6].second, "*.m4a;*.m4b;*.mp4;*.m4p;*.m4r;*.aac");
 }
+
+TEST(OpenPipeline, ScaleLabelAfterAnOpen) {
+  TestSession t;
+  Session& s = *t.s;
+  s.m_noWorker = 1;
+  const QString wav24 = t.Path("w24.wav");
+  ASSERT_TRUE(WriteFile(wav24, ReadFile(Fixture("wav_pcm24_stereo.wav"))));
+  // Shown by width in the average test on the percent scale only.
+  s.m_testMode = 1;
+  s.m_showDb = 0;
+  ASSERT_EQ(OpenFileHeadless(s, wav24), 1);
+  EXPECT_EQ(s.m_scaleLabel, "100% = 137 dB");
+  EXPECT_EQ(s.m_scaleLabelVisible, 1);
+  s.m_showDb = 1;
+  ASSERT_EQ(OpenFileHeadless(s, wav24), 1);
+  EXPECT_EQ(s.m_scaleLabelVisible, 0);
+  s.m_showDb = 0;
+  s.m_testMode = 0;
+  s.m_scaleLabelVisible = 1;
+  ASSERT_EQ(OpenFileHeadless(s, wav24), 1);
+  EXPECT_EQ(s.m_scaleLabelVisible, 0);
+}

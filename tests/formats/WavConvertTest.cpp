@@ -171,3 +171,17 @@ TEST(WavConvert, FullDiskEndsTheWorkerWithTheWriteMessage) {
   EXPECT_EQ(t.prompt.texts(),
             QStringList{"Sorry, but an error of write has occurred to the output file: /dev/full."});
 }
+
+// Through the open pipeline and the WAV reader: a compressed WAV takes the conversion road.
+TEST(WavConvert, OpenPipelineTakesTheConversionRoad) {
+  for (const char* name : {"ima_2", "ext24_2"}) {
+    SCOPED_TRACE(name);
+    TestSession t;
+    const QString src = Stage(t, QString("conv_%1.wav").arg(name), "שלום 🤔.wav");
+    ASSERT_EQ(OpenAndWait(t, src), 1) << t.prompt.texts().join('|').toStdString();
+    const bool ext = QString(name).startsWith("ext");
+    EXPECT_EQ(t.s->m_propertyLines[3],
+              ext ? "  Audio Format      PCM signed 24-bit little-endian" : "  Audio Format      ADPCM IMA WAV");
+    ExpectWorkFile(g_workPath, QString("conv_%1.ref.raw").arg(name), 2, ext ? 48000 : 44100, ext ? 24 : 16);
+  }
+}

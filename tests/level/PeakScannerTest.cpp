@@ -433,6 +433,26 @@ TEST(PeakScanner, ManyWindowsWithTinyGranularity) {
   EXPECT_EQ(k.s.m_levelLeft, 100.0f);
 }
 
+TEST(PeakScanner, WindowedTwentyFourBitFramesStayWhole) {
+  // A 24-bit frame does not divide a window; with a header of 46 the data fills the first
+  // window with whole frames, and the later windows still read whole frames.
+  const uint32_t g = 16;
+  const int w = int(g) * 1600;
+  const int size = 3 * w + 60;
+  const int frames = (size - 46) / 6;
+  std::vector<int32_t> v(size_t(frames) * 2, 1000);
+  v[size_t((w - 46) / 6) * 2 + 1] = 8388607;       // right, in the frame that crosses W
+  v[size_t((2 * w - 46) / 6) * 2] = -8388608;      // left, in the frame that crosses 2W
+  QByteArray data = Int24(v);
+  data.append(QByteArray(size - 46 - data.size(), '\0'));
+  Scanner k;
+  k.Prepare(WavBytes(2, 24, 1, data, true), 2, 24, 1, 46, uint32_t(data.size()));
+  k.s.m_allocGranularity = g;
+  EXPECT_EQ(k.BytesOf(), unsigned(frames) * 6);
+  EXPECT_EQ(k.s.m_levelLeft, 100.0f);
+  EXPECT_EQ(k.s.m_levelRight, 100.0f);
+}
+
 TEST(PeakScanner, CancelExitAndPause) {
   std::vector<int16_t> v = Quiet16(400000);  // 200000 frames: several pumps
   v[399998] = 30000;
