@@ -440,8 +440,8 @@ int Decoder::DecodeFrame(uint32_t index) {
   if (end > m_size) return kErrRead;  // the file ends inside this frame
 
   auto decode = [&]() {
-    return i.bits == 32 ? DecodeFrameAs<int64_t>(index, start, blocks)
-                        : DecodeFrameAs<int32_t>(index, start, blocks);
+    return i.bits == 32 ? DecodeFrameAs<int64_t>(start, blocks)
+                        : DecodeFrameAs<int32_t>(start, blocks);
   };
   int rc = decode();
   if ((rc == kErrChecksum || rc == kErrDecodingFrame) && !m_legacy && i.bits != 32) {
@@ -456,7 +456,7 @@ int Decoder::DecodeFrame(uint32_t index) {
 }
 
 template <typename S>
-int Decoder::DecodeFrameAs(uint32_t /*index*/, uint64_t start, uint32_t blocks) {
+int Decoder::DecodeFrameAs(uint64_t start, uint32_t blocks) {
   const StreamInfo& info = m_info;
   const int channels = info.channels;
   const int bytes = info.bits / 8;

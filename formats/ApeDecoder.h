@@ -121,7 +121,7 @@ class Decoder {
  private:
   int DecodeFrame(uint32_t index);
   template <typename S>
-  int DecodeFrameAs(uint32_t index, uint64_t start, uint32_t blocks);
+  int DecodeFrameAs(uint64_t start, uint32_t blocks);
 
   std::unique_ptr<MappedFile> m_file;
   std::unique_ptr<PredictorSet> m_predictors;

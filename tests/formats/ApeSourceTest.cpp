@@ -177,9 +177,10 @@ TEST(ApeSource, DamagedStreamStopsTheWorkerWithoutWritingItsSamples) {
 // Tags after the audio (APEv2 with its header, ID3v1) and an ID3v2 tag before it are passed
 // over.
 TEST(ApeSource, TagsAroundTheAudioArePassedOver) {
-  QByteArray apeTag("APETAGEX");
   auto le32 = [](uint32_t v) {
-    return QByteArray::fromRawData(reinterpret_cast<const char*>(&v), 4);
+    QByteArray b(4, '\0');
+    for (int i = 0; i < 4; ++i) b[i] = char(v >> (8 * i));
+    return b;
   };
   const QByteArray item = le32(5) + le32(0) + QByteArray("Title", 6) + "Hello";
   QByteArray header = "APETAGEX" + le32(2000) + le32(uint32_t(item.size() + 32)) + le32(1) + le32(0xA0000000u) +
