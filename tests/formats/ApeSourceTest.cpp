@@ -223,7 +223,9 @@ TEST(ApeSource, PeakTestGivesTheSourcesPeaks) {
     const HeadlessReport r = TestFileHeadless(*t.s, t.prompt, src, options);
     ASSERT_TRUE(r.ok) << r.error.toStdString();
     EXPECT_NEAR(r.result.WavPikNoClippingLeft, c.left, 0.006);
-    if (r.channels == 2) EXPECT_NEAR(r.result.WavPikNoClippingRight, c.right, 0.006);
+    if (r.channels == 2) {
+      EXPECT_NEAR(r.result.WavPikNoClippingRight, c.right, 0.006);
+    }
     EXPECT_FALSE(QFile::exists(t.Path("p.tmp")));
   }
 }
