@@ -345,7 +345,8 @@ int OpenWavConversion(Session& s) {
     return 0;
   }
   // Whole source blocks for codecs that work in blocks.
-  if (w.blockAlign > 1 && w.blockAlign <= kConversionBlock) job->blockBytes = kConversionBlock / w.blockAlign * w.blockAlign;
+  // (a 16-bit block alignment always fits in one conversion block)
+  if (w.blockAlign > 1) job->blockBytes = kConversionBlock / w.blockAlign * w.blockAlign;
   if (!IsPcmCodec(id) && !IsFloatCodec(id) && w.blockAlign >= 32) job->packetBytes = w.blockAlign;
 
   s.m_bits = plan.bits;

@@ -30,12 +30,10 @@ struct BitWriter {
 };
 
 std::vector<uint8_t> Cookie(uint32_t frameLength, int depth, int channels, int version = 0) {
-  std::vector<uint8_t> c = {uint8_t(frameLength >> 24), uint8_t(frameLength >> 16), uint8_t(frameLength >> 8),
-                            uint8_t(frameLength), uint8_t(version), uint8_t(depth), 40, 10, 14, uint8_t(channels), 0,
-                            255};
-  c.resize(24, 0);
-  c[20] = 0, c[21] = 0, c[22] = 0xAC, c[23] = 0x44;
-  return c;
+  const uint8_t bytes[24] = {uint8_t(frameLength >> 24), uint8_t(frameLength >> 16), uint8_t(frameLength >> 8),
+                             uint8_t(frameLength), uint8_t(version), uint8_t(depth), 40, 10, 14, uint8_t(channels), 0,
+                             255, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xAC, 0x44};
+  return std::vector<uint8_t>(bytes, bytes + 24);
 }
 
 // An uncompressed element: tag, instance, unused bits, header, optional count, samples.
@@ -200,7 +198,9 @@ TEST(AlacDecoder, DamagedPacketsOfARealStreamStayInBounds) {
       p.resize(cut + kAlacPacketPadding, 0);
       BitBuffer bits(p.data(), uint32_t(cut));
       const int rc = d.Decode(&bits, out.data(), 4096, 2, &frames);
-      if (rc != kAlacNoErr) EXPECT_EQ(frames, 0u);
+      if (rc != kAlacNoErr) {
+        EXPECT_EQ(frames, 0u);
+      }
       if (cut == firstSize && flip < 0) decodedWhole = rc == kAlacNoErr && frames == 4096;
     }
   }
