@@ -1,5 +1,7 @@
 #include "formats/FlacSource.h"
 
+#include "formats/OpenPipeline.h"
+
 #include <FLAC/stream_decoder.h>
 
 #include <QFile>
@@ -281,10 +283,7 @@ int OpenFlac(Session& s) {
       DeleteWorkFile(job->outPath);
     }
     s.m_statusText = TR("  Test is stopped");
-    const bool yes = s.m_prompt.Ask(
-        TR("Sorry, but ") + TR("the file ") + s.m_fileName +
-        TR(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
-           "Please, select other file.\nDo You want to open a dialog of selection a file?"));
+    const bool yes = s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName));
     if (!yes) {
       s.m_opening = 0;
       s.m_fileNotOpened = 1;

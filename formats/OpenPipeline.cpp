@@ -339,3 +339,9 @@ QStringList FillFileList(const QString& folder) {
   }
   return out;
 }
+
+QString UnsupportedFormatQuestion(const QString& path) {
+  return TR("Sorry, but ") + TR("the file ") + path +
+         TR(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
+            "Please, select other file.\nDo You want to open a dialog of selection a file?");
+}

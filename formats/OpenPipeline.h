@@ -58,3 +58,8 @@ QString OpenDialogTitle();
 // The supported files of a folder (file names only, directories skipped), in the order
 // the folder gives them.
 QStringList FillFileList(const QString& folder);
+
+// The refusal of a file whose content no reader supports: "Sorry, but the file " + path +
+// " has unsupported by the program a format of sound data. ..." with the question whether
+// to choose another file.
+QString UnsupportedFormatQuestion(const QString& path);

@@ -119,9 +119,7 @@ QString NotWaveQuestion(const QString& path) {
   return FilePrefix() + path + TR(" does not contain a sound data characteristic for the Wav files.") +
          TR(kSelectAnother);
 }
-QString UnsupportedQuestion(const QString& path) {
-  return FilePrefix() + path + TR(" has unsupported by the program a format of sound data.") + TR(kSelectAnother);
-}
+QString UnsupportedQuestion(const QString& path) { return UnsupportedFormatQuestion(path); }
 
 // A Yes to one of the refusal questions: the session lets go of the file and the open
 // dialog comes up again.

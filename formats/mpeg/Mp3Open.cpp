@@ -156,11 +156,7 @@ QString Mp3SampleRateLine(uint32_t sampleRate) {
 
 namespace {
 
-QString UnsupportedQuestion(const QString& path) {
-  return TR("Sorry, but ") + TR("the file ") + path +
-         TR(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
-            "Please, select other file.\nDo You want to open a dialog of selection a file?");
-}
+QString UnsupportedQuestion(const QString& path) { return UnsupportedFormatQuestion(path); }
 
 // Opens and maps the source once, as a check that it can be read at all; the MPEG stream
 // maps it again. Returns the low half of the size, or -1 after a message.
