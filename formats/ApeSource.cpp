@@ -137,18 +137,11 @@ int OpenApe(Session& s) {
                          (s.m_bits == 8 || s.m_bits == 16 || s.m_bits == 24);
   if (!supported) {
     c_APEDecompress_Destroy(h);
-    s.m_statusText = TR("  Test is stopped");
-    const bool yes = s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName));
-    if (!yes) {
-      s.m_opening = 0;
-      s.m_fileNotOpened = 1;
-    }
+    RefuseUnsupportedFormat(s);
     return 0;
   }
 
-  s.m_propertyLines[0] = TR("  Bits on Readout ") + QString::number(s.m_bits).rightJustified(3, ' ');
-  s.m_propertyLines[1] = TR("  Channels             ") + QString::number(s.m_channels);
-  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(s.m_sampleRate) + TR(" Hz");
+  SetPcmPropertyLines(s, s.m_bits, s.m_channels, s.m_sampleRate);
   s.m_propertyLines[3] = TR("  Audio Format       APE");
   c_APEDecompress_Destroy(h);
 

@@ -282,18 +282,11 @@ int OpenFlac(Session& s) {
       JoinWorker();
       DeleteWorkFile(job->outPath);
     }
-    s.m_statusText = TR("  Test is stopped");
-    const bool yes = s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName));
-    if (!yes) {
-      s.m_opening = 0;
-      s.m_fileNotOpened = 1;
-    }
+    RefuseUnsupportedFormat(s);
     return 0;
   }
 
-  s.m_propertyLines[0] = TR("  Bits on Readout ") + QString::number(info.bits).rightJustified(3, ' ');
-  s.m_propertyLines[1] = TR("  Channels             ") + QString::number(info.channels);
-  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(info.sampleRate) + TR(" Hz");
+  SetPcmPropertyLines(s, info.bits, info.channels, info.sampleRate);
   s.m_propertyLines[3] = TR("  Audio Format      FLAC");
   ShowFlacError(s, s.m_fileName);
   return 1;

@@ -345,3 +345,17 @@ QString UnsupportedFormatQuestion(const QString& path) {
          TR(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
             "Please, select other file.\nDo You want to open a dialog of selection a file?");
 }
+
+void RefuseUnsupportedFormat(Session& s) {
+  s.m_statusText = TR("  Test is stopped");
+  if (!s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName))) {
+    s.m_opening = 0;
+    s.m_fileNotOpened = 1;
+  }
+}
+
+void SetPcmPropertyLines(Session& s, int bits, int channels, int sampleRate) {
+  s.m_propertyLines[0] = TR("  Bits on Readout ") + QString::number(bits).rightJustified(3, ' ');
+  s.m_propertyLines[1] = TR("  Channels             ") + QString::number(channels);
+  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(sampleRate) + TR(" Hz");
+}

@@ -63,3 +63,10 @@ QStringList FillFileList(const QString& folder);
 // " has unsupported by the program a format of sound data. ..." with the question whether
 // to choose another file.
 QString UnsupportedFormatQuestion(const QString& path);
+
+// A reader's refusal of the content: the status "  Test is stopped" and the question above;
+// a No leaves the session without a file (the next Test asks for one).
+void RefuseUnsupportedFormat(Session& s);
+
+// Lines 1 to 3 of a PCM-like source (WAV, FLAC, APE): bits, channels, frequency.
+void SetPcmPropertyLines(Session& s, int bits, int channels, int sampleRate);
