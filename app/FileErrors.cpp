@@ -33,14 +33,14 @@ int ErrorCodeFromErrno(int err, const QString& path) {
 
 static QString TableText(int code) {
   switch (code) {
-    case kErrFileNotFound: return TR(" impossible. Because the file does not exist.");
-    case kErrPathNotFound: return TR(" impossible. Because the file path does not exist.");
-    case kErrTooManyOpen: return TR(". Because too many files are opened.");
-    case kErrAccessDenied: return TR(" impossible. Because access to the file is prohibited.");
+    case kErrFileNotFound: return Tonvane::tr(" impossible. Because the file does not exist.");
+    case kErrPathNotFound: return Tonvane::tr(" impossible. Because the file path does not exist.");
+    case kErrTooManyOpen: return Tonvane::tr(". Because too many files are opened.");
+    case kErrAccessDenied: return Tonvane::tr(" impossible. Because access to the file is prohibited.");
     case kErrInvalidName:
-      return TR(" impossible. Because of the incorrect file name, name of folder or disk name.");
-    case kErrNameTooLong: return TR(" impossible. Because the file name or its extension is too long.");
-    case kErrCantAccessFile: return TR(" impossible. Because the system cannot get access to the file.");
+      return Tonvane::tr(" impossible. Because of the incorrect file name, name of folder or disk name.");
+    case kErrNameTooLong: return Tonvane::tr(" impossible. Because the file name or its extension is too long.");
+    case kErrCantAccessFile: return Tonvane::tr(" impossible. Because the system cannot get access to the file.");
     default: return {};
   }
 }
@@ -55,13 +55,13 @@ QString SystemErrorText(int code) {
 
 QString FileErrorText(const QString& action, const QString& file, const QString& tail, int code,
                       bool withFile) {
-  QString prefix = TR("Sorry, but ");
-  if (!file.isEmpty()) prefix += TR("the file ");
+  QString prefix = Tonvane::tr("Sorry, but ");
+  if (!file.isEmpty()) prefix += Tonvane::tr("the file ");
   QString table = TableText(code);
   if (!table.isEmpty()) return prefix + file + action + table + tail;
   QString sys = SystemErrorText(code);
   if (withFile) return prefix + file + action + sys + tail;
-  return TR("Sorry, but ") + action + TR(" impossible. ") + sys + tail;
+  return Tonvane::tr("Sorry, but ") + action + Tonvane::tr(" impossible. ") + sys + tail;
 }
 
 void ReportFileError(Session& s, const QString& action, const QString& file, const QString& tail,

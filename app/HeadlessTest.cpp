@@ -145,14 +145,14 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   };
 
   if (!QFileInfo(full).isFile())
-    return fail(FileErrorText(TR(" cannot be opened"), full, QString(), ErrorCodeFromErrno(ENOENT, full), true));
-  if (KindOfName(full) < 0) return fail(TR("Sorry, but the type of this file is not supported."));
+    return fail(FileErrorText(Tonvane::tr(" cannot be opened"), full, QString(), ErrorCodeFromErrno(ENOENT, full), true));
+  if (KindOfName(full) < 0) return fail(Tonvane::tr("Sorry, but the type of this file is not supported."));
 
   // The header first, without a worker: enough for the properties and a look in the log.
   s.m_noWorker = 1;
   int opened = OpenFileHeadless(s, full);
   s.m_noWorker = 0;
-  if (!opened) return fail(TR("Sorry, but the file ") + full + TR(" cannot be opened"));
+  if (!opened) return fail(Tonvane::tr("Sorry, but the file ") + full + Tonvane::tr(" cannot be opened"));
 
   r.kind = s.m_sourceKind;
   r.channels = s.m_channels;
@@ -168,7 +168,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
     return r;
   }
   if (s.m_sourceKind == kKindMp3 && mode == 0)
-    return fail(TR("Sorry, but the peak test is not offered for MP3 files; use the average test."));
+    return fail(Tonvane::tr("Sorry, but the peak test is not offered for MP3 files; use the average test."));
   s.m_testMode = mode;
 
   bool fromLog = false;
@@ -184,16 +184,16 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
       s.m_testMode = mode;
       s.m_showDb = options.showDb;
       if (!OpenFileHeadless(s, full))
-        return fail(TR("Sorry, but the file ") + full + TR(" cannot be opened"));
+        return fail(Tonvane::tr("Sorry, but the file ") + full + Tonvane::tr(" cannot be opened"));
       WaitForWorker(s);
       if (g_copyFailed.exchange(0) || g_workPath.isEmpty())
-        return fail(TR("Sorry, the test is stopped because the file was not opened for it."));
+        return fail(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it."));
       // A FLAC file whose decoder reported errors opens, but is not tested.
       if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName))
-        return fail(TR("Sorry but the file ") + s.m_fileName + TR(" has errors. ") + FlacStatusText(g_flacStatus));
+        return fail(Tonvane::tr("Sorry but the file ") + s.m_fileName + Tonvane::tr(" has errors. ") + FlacStatusText(g_flacStatus));
     }
     if (!MeasureWorkFile(s, mode))
-      return fail(TR("Sorry, but the test of the file ") + full + TR(" has failed."));
+      return fail(Tonvane::tr("Sorry, but the test of the file ") + full + Tonvane::tr(" has failed."));
     StoreInLog(s, full, mode);
   }
 
@@ -208,14 +208,14 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
 int RunTestOnOpenFile(Session& s, bool& fromLog) {
   fromLog = false;
   if (g_workPath.isEmpty() || s.m_fileNotOpened) {
-    s.m_statusText = TR("  Test is stopped");
-    s.m_prompt.Ask(TR("Sorry, the test is stopped because the file was not opened for it.\n"
+    s.m_statusText = Tonvane::tr("  Test is stopped");
+    s.m_prompt.Ask(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it.\n"
                       "Do You want to open a dialog of selection a file?"));
     return 0;
   }
   s.m_testRunning = 1;
   s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 0;
-  s.m_statusText = TR("  Test of the volume level is fulfilling");
+  s.m_statusText = Tonvane::tr("  Test of the volume level is fulfilling");
   s.m_cancelRequested = 0;
   s.SetProgress(0);
   auto stop = [&s]() {

@@ -16,7 +16,7 @@ QString SingleInstance::LockPath() {
 }
 
 QString SingleInstance::AlreadyRunningText() {
-  return TR("Sorry, but the copy of this program is already launched and it is fulfilling. "
+  return Tonvane::tr("Sorry, but the copy of this program is already launched and it is fulfilling. "
             "Therefore the launch of this copy program will be stopped.");
 }
 

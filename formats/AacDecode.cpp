@@ -30,10 +30,10 @@ void ThreadBox(Session& s, const QString& text) {
 }
 
 QString CannotBeOpenedText(const QString& path) {
-  return TR("Sorry, but ") + TR("the file ") + path + TR(" cannot be opened");
+  return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path + Tonvane::tr(" cannot be opened");
 }
 
-QString FaadInitErrorText() { return TR("Error initializing decoder library faad. "); }
+QString FaadInitErrorText() { return Tonvane::tr("Error initializing decoder library faad. "); }
 
 // Patches the two size fields from the running total and reports a failure.
 void FinishWorkFile(Session& s, WorkFileWriter& w, float total) {
@@ -99,7 +99,7 @@ bool CreateEmptyWorkFile(const QString& workPath, const QString& sourcePath) {
 }
 
 QString CannotBeCreatedText(const QString& workPath) {
-  return TR("Sorry, but ") + TR("the file ") + workPath + TR(" cannot be created.");
+  return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + workPath + Tonvane::tr(" cannot be created.");
 }
 
 int DecodeMp4Aac(Session& s) {
@@ -141,7 +141,7 @@ int DecodeMp4Aac(Session& s) {
     std::free(buf);
   }
   if (track < 0) {
-    ThreadBox(s, TR("Sorry, but ") + TR("correct AAC sound track is impossible to find in the Mp4 file."));
+    ThreadBox(s, Tonvane::tr("Sorry, but ") + Tonvane::tr("correct AAC sound track is impossible to find in the Mp4 file."));
     closeAll();
     return 1;
   }
@@ -173,7 +173,7 @@ int DecodeMp4Aac(Session& s) {
     unsigned char* data = nullptr;
     unsigned int size = 0;
     if (mp4ff_read_sample(mp4, track, i, &data, &size) == 0) {
-      ThreadBox(s, TR("Reading was failed from Mp4 file."));
+      ThreadBox(s, Tonvane::tr("Reading was failed from Mp4 file."));
       closeAll();
       return 1;
     }
@@ -276,7 +276,7 @@ int DecodeRawAac(Session& s) {
       if (s.m_channels == 0) {
         // ADIF: the count comes with the first frame.
         s.m_channels = info.channels;
-        s.m_propertyLines[1] = TR("  Channels            ") + QString::number(info.channels);
+        s.m_propertyLines[1] = Tonvane::tr("  Channels            ") + QString::number(info.channels);
       }
       headerDone = true;
     }

@@ -273,14 +273,14 @@ AacStart FindAacStart(const uint8_t* data, uint64_t size) {
 }
 
 QString AacEmptyFileText(const QString& path) {
-  return TR("Sorry, but ") + TR("the file ") + path + TR(" is empty and does not contain any sound data.");
+  return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path + Tonvane::tr(" is empty and does not contain any sound data.");
 }
 
-QString AacDamagedText() { return TR("Sorry, the file opening was stopped because the file has errors."); }
+QString AacDamagedText() { return Tonvane::tr("Sorry, the file opening was stopped because the file has errors."); }
 
 bool MapSourceForProbe(Session& s, MappedFile& file, const QString& path) {
   if (!file.Open(path)) {
-    ReportFileError(s, TR(" cannot be opened"), path, QString(), ErrorCodeFromErrno(file.LastErrno(), path), true);
+    ReportFileError(s, Tonvane::tr(" cannot be opened"), path, QString(), ErrorCodeFromErrno(file.LastErrno(), path), true);
     return false;
   }
   if (file.Size() == 0) {
@@ -289,7 +289,7 @@ bool MapSourceForProbe(Session& s, MappedFile& file, const QString& path) {
     return false;
   }
   if (!file.Map(0, file.Size())) {
-    ReportFileError(s, TR(" create a file mapping is impossible"), path, TR("Therefore the test will be stopped."),
+    ReportFileError(s, Tonvane::tr(" create a file mapping is impossible"), path, Tonvane::tr("Therefore the test will be stopped."),
                     ErrorCodeFromErrno(file.LastErrno(), path), true);
     file.Close();
     return false;

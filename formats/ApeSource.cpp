@@ -24,7 +24,7 @@ APE_DECOMPRESS_HANDLE CreateDecoder(const QString& path, int& error) {
 }
 
 QString NotOpenedText(const QString& path) {
-  return TR("Sorry, but ") + TR("the file ") + path + TR(" cannot be opened");
+  return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path + Tonvane::tr(" cannot be opened");
 }
 
 }  // namespace
@@ -32,14 +32,14 @@ QString NotOpenedText(const QString& path) {
 QString ApeOpenFailureText(const QString& path, int error) {
   if (error == ape::kErrUnsupportedVersion)
     return NotOpenedText(path) +
-           TR(". It was made by a version of Monkey's Audio older than 3.99, which the program does not decode.");
-  return NotOpenedText(path) + TR(". It is not a Monkey's Audio file, or its header is damaged.");
+           Tonvane::tr(". It was made by a version of Monkey's Audio older than 3.99, which the program does not decode.");
+  return NotOpenedText(path) + Tonvane::tr(". It is not a Monkey's Audio file, or its header is damaged.");
 }
 
 QString ApeDecodeErrorText(const QString& path, int error) {
-  const QString opening = TR("Sorry, but an error of opening has occurred decoding stream.");
-  if (error == ape::kErrRead) return opening + TR(" The file ") + path + TR(" ends inside its sound data.");
-  return opening + TR(" The file ") + path + TR(" is damaged: its sound data does not pass its check.");
+  const QString opening = Tonvane::tr("Sorry, but an error of opening has occurred decoding stream.");
+  if (error == ape::kErrRead) return opening + Tonvane::tr(" The file ") + path + Tonvane::tr(" ends inside its sound data.");
+  return opening + Tonvane::tr(" The file ") + path + Tonvane::tr(" is damaged: its sound data does not pass its check.");
 }
 
 int ApeWorkerBody(Session& s) {
@@ -66,7 +66,7 @@ int ApeWorkerBody(Session& s) {
 
   WorkFileWriter out;
   if (!out.Open(work, source)) {
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + work + TR(" cannot be created."), PromptIcon::Error);
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + work + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     c_APEDecompress_Destroy(h);
     return failed();
   }
@@ -117,11 +117,11 @@ int OpenApe(Session& s) {
   APE_DECOMPRESS_HANDLE h = CreateDecoder(s.m_fileName, error);
   if (!h) {
     if (error == ape::kErrRead && errno != 0)
-      ReportFileError(s, TR(" cannot be opened"), s.m_fileName, QString(),
+      ReportFileError(s, Tonvane::tr(" cannot be opened"), s.m_fileName, QString(),
                       ErrorCodeFromErrno(errno, s.m_fileName), true);
     else
       s.m_prompt.Message(ApeOpenFailureText(s.m_fileName, error), PromptIcon::Error,
-                         QStringLiteral("FileError:") + TR(" cannot be opened"));
+                         QStringLiteral("FileError:") + Tonvane::tr(" cannot be opened"));
     return 0;
   }
 
@@ -142,7 +142,7 @@ int OpenApe(Session& s) {
   }
 
   SetPcmPropertyLines(s, s.m_bits, s.m_channels, s.m_sampleRate);
-  s.m_propertyLines[3] = TR("  Audio Format       APE");
+  s.m_propertyLines[3] = Tonvane::tr("  Audio Format       APE");
   c_APEDecompress_Destroy(h);
 
   if (s.m_noWorker) return 1;

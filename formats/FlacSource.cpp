@@ -176,7 +176,7 @@ void OnError(const FLAC__StreamDecoder*, FLAC__StreamDecoderErrorStatus status, 
 
 // Creates the decoder with MD5 checking on and opens `path`; null after the message.
 FLAC__StreamDecoder* StartDecoder(Session& s, const QString& path, FlacJob* job) {
-  const QString failed = TR("Sorry, but an error of opening has occurred decoding stream.");
+  const QString failed = Tonvane::tr("Sorry, but an error of opening has occurred decoding stream.");
   FLAC__StreamDecoder* d = FLAC__stream_decoder_new();
   if (!d) {
     s.m_prompt.Message(failed, PromptIcon::Error);
@@ -198,10 +198,10 @@ FLAC__StreamDecoder* StartDecoder(Session& s, const QString& path, FlacJob* job)
 
 QString FlacStatusText(int status) {
   switch (status) {
-    case 0: return TR("An error in the stream caused the decoder to lose synchronization.");
-    case 1: return TR("The decoder encountered a corrupted frame header.");
-    case 2: return TR(" The frame's data do not match the CRC in the footer.");
-    case 3: return TR("The decoder encountered reserved fields in use in the stream.");
+    case 0: return Tonvane::tr("An error in the stream caused the decoder to lose synchronization.");
+    case 1: return Tonvane::tr("The decoder encountered a corrupted frame header.");
+    case 2: return Tonvane::tr(" The frame's data do not match the CRC in the footer.");
+    case 3: return Tonvane::tr("The decoder encountered reserved fields in use in the stream.");
     default: return {};
   }
 }
@@ -209,7 +209,7 @@ QString FlacStatusText(int status) {
 int ShowFlacError(Session& s, const QString& path) {
   const int status = g_flacStatus.load();
   if (status < 0 || status > 3) return 0;
-  s.m_prompt.Message(TR("Sorry but the file ") + path + TR(" has errors. ") + FlacStatusText(status),
+  s.m_prompt.Message(Tonvane::tr("Sorry but the file ") + path + Tonvane::tr(" has errors. ") + FlacStatusText(status),
                      PromptIcon::Information, QStringLiteral("FlacError"));
   return 1;
 }
@@ -231,7 +231,7 @@ int OpenFlac(Session& s) {
   job->outPath = g_workPath;
   const bool withWorker = !s.m_noWorker;
   if (withWorker && !writer->Open(g_workPath, g_sourcePath)) {
-    s.m_prompt.Message(TR("Sorry, but the file ") + g_workPath + TR(" cannot be created."), PromptIcon::Error);
+    s.m_prompt.Message(Tonvane::tr("Sorry, but the file ") + g_workPath + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     return 0;
   }
   auto dropWorkFile = [&] {
@@ -287,7 +287,7 @@ int OpenFlac(Session& s) {
   }
 
   SetPcmPropertyLines(s, info.bits, info.channels, info.sampleRate);
-  s.m_propertyLines[3] = TR("  Audio Format      FLAC");
+  s.m_propertyLines[3] = Tonvane::tr("  Audio Format      FLAC");
   ShowFlacError(s, s.m_fileName);
   return 1;
 }

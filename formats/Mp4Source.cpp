@@ -25,17 +25,17 @@ int OpenMp4(Session& s) {
     durationMs = probe.durationMs();
   }
 
-  s.m_propertyLines[0] = TR("  Bit Rate               ") + QString::number((int64_t(bitRate) + 500) / 1000) + TR(" kbps");
-  s.m_propertyLines[1] = TR("  Channels            ") + QString::number(channels);
-  s.m_propertyLines[2] = TR("  Sample Rate       ") + QString::number(sampleRate) + TR(" Hz");
+  s.m_propertyLines[0] = Tonvane::tr("  Bit Rate               ") + QString::number((int64_t(bitRate) + 500) / 1000) + Tonvane::tr(" kbps");
+  s.m_propertyLines[1] = Tonvane::tr("  Channels            ") + QString::number(channels);
+  s.m_propertyLines[2] = Tonvane::tr("  Sample Rate       ") + QString::number(sampleRate) + Tonvane::tr(" Hz");
   if (durationMs == 0) return 0;
 
   if (type == AACFile::kTypeAac) {
-    s.m_propertyLines[3] = mpegVersion == 0 ? TR("  Audio Format      MPEG-4 AAC LC") : TR("  Audio Format      MPEG-2 AAC");
+    s.m_propertyLines[3] = mpegVersion == 0 ? Tonvane::tr("  Audio Format      MPEG-4 AAC LC") : Tonvane::tr("  Audio Format      MPEG-2 AAC");
     s.m_sourceKind = kKindAac;
     bits = 16;  // the decoder's default output
   } else if (type == AACFile::kTypeAlac) {
-    s.m_propertyLines[3] = TR("  Audio Format      MPEG-4 ALAC");
+    s.m_propertyLines[3] = Tonvane::tr("  Audio Format      MPEG-4 ALAC");
     s.m_sourceKind = kKindAlac;
   } else {
     return 0;
@@ -45,7 +45,7 @@ int OpenMp4(Session& s) {
   s.m_bits = bits;
   s.m_bitRate = bitRate;
   s.m_durationMs = durationMs;
-  s.m_scaleLabel = TR("100% = 89 dB");
+  s.m_scaleLabel = Tonvane::tr("100% = 89 dB");
 
   CloseWorkFile(s);
   const QString work = g_workPath;
@@ -56,9 +56,9 @@ int OpenMp4(Session& s) {
   s.m_isMp4Container = isMp4;
   if (channels > 2) {
     if (!s.m_noWorker) DeleteWorkFile(work);
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + s.m_fileName +
-                           TR(" has unsupported by the program a format of sound data.") +
-                           TR(" The file has an amount of channels more than 2."),
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + s.m_fileName +
+                           Tonvane::tr(" has unsupported by the program a format of sound data.") +
+                           Tonvane::tr(" The file has an amount of channels more than 2."),
                        PromptIcon::Error);
     return 0;
   }

@@ -17,7 +17,7 @@
 
 namespace {
 
-QString NotOpenedText(const QString& path) { return TR("Sorry, but ") + TR("the file ") + path + TR(" cannot be opened"); }
+QString NotOpenedText(const QString& path) { return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path + Tonvane::tr(" cannot be opened"); }
 
 // ov_fopen on a Unicode path.
 int OpenVorbis(const QString& path, OggVorbis_File* vf) {
@@ -40,8 +40,8 @@ static int OggWorkerBody(Session& s) {
   const int rate = vi ? int(vi->rate) : 0;
   const ogg_int64_t samples = ov_pcm_total(&vf, -1);
   if (samples == OV_EINVAL || !vi) {
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + source +
-                           TR(" does not contain a sound data. Therefore the test is impossible."),
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + source +
+                           Tonvane::tr(" does not contain a sound data. Therefore the test is impossible."),
                        PromptIcon::Error);
     ov_clear(&vf);
     return 1;
@@ -51,7 +51,7 @@ static int OggWorkerBody(Session& s) {
 
   WorkFileWriter out;
   if (!out.Open(work, source)) {
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + work + TR(" cannot be created."), PromptIcon::Error);
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + work + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     ov_clear(&vf);
     return 1;
   }
@@ -80,7 +80,7 @@ static int OggWorkerBody(Session& s) {
     if (n == OV_HOLE || n == OV_EBADLINK || n == OV_EINVAL || n < 0) {
       const bool written = flush();
       out.Close();
-      s.m_prompt.Message(written ? TR("Sorry, but an error of opening has occurred decoding stream.")
+      s.m_prompt.Message(written ? Tonvane::tr("Sorry, but an error of opening has occurred decoding stream.")
                                  : WorkWriteFailedText(work),
                          PromptIcon::Error);
       ov_clear(&vf);
@@ -123,7 +123,7 @@ int OpenOgg(Session& s) {
   {
     const int fd = ::open(QFile::encodeName(s.m_fileName).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
-      ReportFileError(s, TR(" cannot be opened"), s.m_fileName, QString(), ErrorCodeFromErrno(errno, s.m_fileName),
+      ReportFileError(s, Tonvane::tr(" cannot be opened"), s.m_fileName, QString(), ErrorCodeFromErrno(errno, s.m_fileName),
                       true);
       return 0;
     }
@@ -132,7 +132,7 @@ int OpenOgg(Session& s) {
   OggVorbis_File vf;
   if (OpenVorbis(s.m_fileName, &vf) != 0) {
     s.m_prompt.Message(NotOpenedText(s.m_fileName), PromptIcon::Error,
-                       QStringLiteral("FileError:") + TR(" cannot be opened"));
+                       QStringLiteral("FileError:") + Tonvane::tr(" cannot be opened"));
     return 0;
   }
   const long bitrate = ov_bitrate(&vf, 0);
@@ -140,10 +140,10 @@ int OpenOgg(Session& s) {
   const vorbis_info* vi = ov_info(&vf, 0);
   s.m_channels = vi ? vi->channels : 0;
   s.m_sampleRate = vi ? int(vi->rate) : 0;
-  s.m_propertyLines[0] = TR("  Bit Rate               ") + QString::number(s.m_bitRate) + TR(" kbps");
-  s.m_propertyLines[1] = TR("  Channels            ") + QString::number(s.m_channels);
-  s.m_propertyLines[2] = TR("  Sample Rate       ") + QString::number(s.m_sampleRate) + TR(" Hz");
-  s.m_propertyLines[3] = TR("  Audio Format      Ogg Vorbis");
+  s.m_propertyLines[0] = Tonvane::tr("  Bit Rate               ") + QString::number(s.m_bitRate) + Tonvane::tr(" kbps");
+  s.m_propertyLines[1] = Tonvane::tr("  Channels            ") + QString::number(s.m_channels);
+  s.m_propertyLines[2] = Tonvane::tr("  Sample Rate       ") + QString::number(s.m_sampleRate) + Tonvane::tr(" Hz");
+  s.m_propertyLines[3] = Tonvane::tr("  Audio Format      Ogg Vorbis");
   s.m_bits = 16;
   s.m_formatTag = 1;
   const double seconds = ov_time_total(&vf, -1);

@@ -129,15 +129,15 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
     g_workFile = ::open(native.constData(), O_RDONLY | O_CLOEXEC);
     if (g_workFile < 0) {
       const int err = errno;
-      ReportFileError(s, TR(" cannot be opened"), path, QString(), ErrorCodeFromErrno(err, path), true);
+      ReportFileError(s, Tonvane::tr(" cannot be opened"), path, QString(), ErrorCodeFromErrno(err, path), true);
       GiveUp(s);
       return 0;
     }
     ShowFileSize(s);
     if (s.m_sourceKind != kKindWav) {
       if (s.m_fileSize == 0 && s.m_fileSizeHigh == 0) {
-        s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + path +
-                               TR(" is empty and does not contain any sound data."),
+        s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path +
+                               Tonvane::tr(" is empty and does not contain any sound data."),
                            PromptIcon::Error);
         ::close(g_workFile);
         g_workFile = -1;
@@ -163,7 +163,7 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
   }
 
   SetScaleLabel(s);
-  s.m_title = QFileInfo(path).fileName() + TR(" - Tonvane 1.0");
+  s.m_title = QFileInfo(path).fileName() + Tonvane::tr(" - Tonvane 1.0");
   s.m_levelLeft = s.m_levelRight = -1.0f;
   s.m_fileNotOpened = 0;
   s.m_opening = 0;
@@ -217,7 +217,7 @@ int CheckFileName(Session& s, int ask) {
   const qsizetype tail = name.size() - dot;
   if (dot < 0 || (tail != 4 && tail != 5)) {
     if (ask &&
-        s.m_prompt.Ask(TR("Sorry, but the file name is incorrect. Please, select another file.\n"
+        s.m_prompt.Ask(Tonvane::tr("Sorry, but the file name is incorrect. Please, select another file.\n"
                           "Do You want to open a dialog of selection a file?"))) {
       OnFileOpen(s);
     }
@@ -226,8 +226,8 @@ int CheckFileName(Session& s, int ask) {
   if (KindOfName(name) < 0) {
     if (ask) {
       const QString question =
-          TR("Sorry, but file name with extension \"") + name.mid(dot + 1) + TR("\", ") +
-          TR(" is not supported by the program. Please, select another file.\n"
+          Tonvane::tr("Sorry, but file name with extension \"") + name.mid(dot + 1) + Tonvane::tr("\", ") +
+          Tonvane::tr(" is not supported by the program. Please, select another file.\n"
              "Do You want to open a dialog of selection a file?");
       if (s.m_prompt.Ask(question))
         OnFileOpen(s);
@@ -241,7 +241,7 @@ int CheckFileName(Session& s, int ask) {
 
 QString SizeText(uint64_t size) {
   double v = double(size) / 1024.0;
-  if (v <= 1.0) return QString::asprintf("%4d", int(size)).trimmed() + TR(" bytes");
+  if (v <= 1.0) return QString::asprintf("%4d", int(size)).trimmed() + Tonvane::tr(" bytes");
   int level = 1;
   while (v / 1024.0 > 1.0) {
     v /= 1024.0;
@@ -250,9 +250,9 @@ QString SizeText(uint64_t size) {
   const QString number =
       (v == double(uint64_t(v)) ? QString::asprintf("%4.0f", v) : QString::asprintf("%4.2f", v)).trimmed();
   switch (level) {
-    case 1: return number + TR(" kB");
-    case 2: return number + TR(" MB");
-    default: return number + TR(" GB");
+    case 1: return number + Tonvane::tr(" kB");
+    case 2: return number + Tonvane::tr(" MB");
+    default: return number + Tonvane::tr(" GB");
   }
 }
 
@@ -263,7 +263,7 @@ bool ShowFileSize(Session& s) {
   s.m_fileSize = uint32_t(size);
   s.m_fileSizeHigh = uint32_t(size >> 32);
   // The line shows the low half, as the readers use it.
-  s.m_propertyLines[4] = TR("  Size                    ") + SizeText(s.m_fileSize);
+  s.m_propertyLines[4] = Tonvane::tr("  Size                    ") + SizeText(s.m_fileSize);
   return true;
 }
 
@@ -314,18 +314,18 @@ int OpenFileHeadless(Session& s, const QString& path) {
 
 QList<QPair<QString, QString>> OpenDialogFilters() {
   return {
-      {TR("All Files (*.*)"), QStringLiteral("*.*")},
-      {TR("Wave Files (*.wav; *.wave)"), QStringLiteral("*.wav;*.wave")},
-      {TR("Mp3 Files (*.mp3; *.mpga)"), QStringLiteral("*.mp3;*.mpga")},
-      {TR("FLAC Files (*.flac; *.fla)"), QStringLiteral("*.flac;*.fla")},
-      {TR("Ogg Files (*.ogg)"), QStringLiteral("*.ogg")},
-      {TR("APE Files (*.ape)"), QStringLiteral("*.ape")},
-      {TR("AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)"),
+      {Tonvane::tr("All Files (*.*)"), QStringLiteral("*.*")},
+      {Tonvane::tr("Wave Files (*.wav; *.wave)"), QStringLiteral("*.wav;*.wave")},
+      {Tonvane::tr("Mp3 Files (*.mp3; *.mpga)"), QStringLiteral("*.mp3;*.mpga")},
+      {Tonvane::tr("FLAC Files (*.flac; *.fla)"), QStringLiteral("*.flac;*.fla")},
+      {Tonvane::tr("Ogg Files (*.ogg)"), QStringLiteral("*.ogg")},
+      {Tonvane::tr("APE Files (*.ape)"), QStringLiteral("*.ape")},
+      {Tonvane::tr("AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)"),
        QStringLiteral("*.m4a;*.m4b;*.mp4;*.m4p;*.m4r;*.aac")},
   };
 }
 
-QString OpenDialogTitle() { return TR("Open      "); }
+QString OpenDialogTitle() { return Tonvane::tr("Open      "); }
 
 QStringList FillFileList(const QString& folder) {
   QStringList out;
@@ -341,13 +341,13 @@ QStringList FillFileList(const QString& folder) {
 }
 
 QString UnsupportedFormatQuestion(const QString& path) {
-  return TR("Sorry, but ") + TR("the file ") + path +
-         TR(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
+  return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path +
+         Tonvane::tr(" has unsupported by the program a format of sound data. Therefore the test is impossible. "
             "Please, select other file.\nDo You want to open a dialog of selection a file?");
 }
 
 void RefuseUnsupportedFormat(Session& s) {
-  s.m_statusText = TR("  Test is stopped");
+  s.m_statusText = Tonvane::tr("  Test is stopped");
   if (!s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName))) {
     s.m_opening = 0;
     s.m_fileNotOpened = 1;
@@ -355,7 +355,7 @@ void RefuseUnsupportedFormat(Session& s) {
 }
 
 void SetPcmPropertyLines(Session& s, int bits, int channels, int sampleRate) {
-  s.m_propertyLines[0] = TR("  Bits on Readout ") + QString::number(bits).rightJustified(3, ' ');
-  s.m_propertyLines[1] = TR("  Channels             ") + QString::number(channels);
-  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(sampleRate) + TR(" Hz");
+  s.m_propertyLines[0] = Tonvane::tr("  Bits on Readout ") + QString::number(bits).rightJustified(3, ' ');
+  s.m_propertyLines[1] = Tonvane::tr("  Channels             ") + QString::number(channels);
+  s.m_propertyLines[2] = Tonvane::tr("  Frequency          ") + QString::number(sampleRate) + Tonvane::tr(" Hz");
 }

@@ -327,7 +327,7 @@ int OpenWavConversion(Session& s) {
   const WaveFormat w = ParseFormat(s.m_fmtBlock);
   const AVCodecID id = CodecOf(w);
   if (id == AV_CODEC_ID_NONE) {
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + s.m_fileName + TR(" cannot be opened"),
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + s.m_fileName + Tonvane::tr(" cannot be opened"),
                        PromptIcon::Information);
     return 0;
   }
@@ -341,7 +341,7 @@ int OpenWavConversion(Session& s) {
   job->workPath = g_workPath;
   job->decoder = OpenDecoder(w, id);
   if (!job->decoder) {
-    s.m_prompt.Message(TR("A stream of data conversion did not succeed to open"), PromptIcon::Warning);
+    s.m_prompt.Message(Tonvane::tr("A stream of data conversion did not succeed to open"), PromptIcon::Warning);
     return 0;
   }
   // Whole source blocks for codecs that work in blocks.
@@ -352,11 +352,11 @@ int OpenWavConversion(Session& s) {
   s.m_bits = plan.bits;
   // The scanner reads 32-bit samples as float only under tag 3.
   if (plan.workTag == kTagFloat) s.m_formatTag = kTagFloat;
-  s.m_propertyLines[0] = TR("  Bit Rate               ") +
-                         QString::number(std::floor(double(w.avgBytesPerSec) * 8.0 / 1000.0 + 0.5), 'f', 0) + TR(" kbps");
-  s.m_propertyLines[1] = TR("  Channels             ") + QString::number(w.channels);
-  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(w.sampleRate) + TR(" Hz");
-  s.m_propertyLines[3] = TR("  Audio Format      PCM").chopped(3) + plan.codecName;
+  s.m_propertyLines[0] = Tonvane::tr("  Bit Rate               ") +
+                         QString::number(std::floor(double(w.avgBytesPerSec) * 8.0 / 1000.0 + 0.5), 'f', 0) + Tonvane::tr(" kbps");
+  s.m_propertyLines[1] = Tonvane::tr("  Channels             ") + QString::number(w.channels);
+  s.m_propertyLines[2] = Tonvane::tr("  Frequency          ") + QString::number(w.sampleRate) + Tonvane::tr(" Hz");
+  s.m_propertyLines[3] = Tonvane::tr("  Audio Format      PCM").chopped(3) + plan.codecName;
   if (s.m_noWorker) {
     // Without a conversion the length comes from the codec's frames per block, where the
     // codec tells it; the conversion sets the true value when it runs.
@@ -373,7 +373,7 @@ int OpenWavConversion(Session& s) {
   }
 
   if (!job->out.Open(g_workPath, g_sourcePath)) {
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + g_workPath + TR(" cannot be created."), PromptIcon::Error);
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + g_workPath + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     return 0;
   }
   if (!job->out.WriteHeader(plan.channels, plan.sampleRate, plan.bits, plan.workTag, 0)) {
@@ -385,7 +385,7 @@ int OpenWavConversion(Session& s) {
     const int err = job->source.LastErrno();
     job->out.Close();
     DeleteWorkFile(g_workPath);
-    ReportFileError(s, TR(" create a file mapping is impossible"), s.m_fileName, TR("Therefore the test will be stopped."),
+    ReportFileError(s, Tonvane::tr(" create a file mapping is impossible"), s.m_fileName, Tonvane::tr("Therefore the test will be stopped."),
                     ErrorCodeFromErrno(err, s.m_fileName), true);
     return 0;
   }

@@ -106,18 +106,18 @@ FormatFields ReadFormat(const QByteArray& block) {
   return {u16(0), u16(2), u32(4), u32(8), u16(12), u16(14)};
 }
 
-QString FilePrefix() { return TR("Sorry, but ") + TR("the file "); }
+QString FilePrefix() { return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file "); }
 
 const char* const kSelectAnother =
     QT_TRANSLATE_NOOP("Tonvane", " Therefore the test is impossible. Please, select other file.\n"
                                  "Do You want to open a dialog of selection a file?");
 
 QString EmptyQuestion(const QString& path) {
-  return FilePrefix() + path + TR(", is empty and does not contain any sound data.") + TR(kSelectAnother);
+  return FilePrefix() + path + Tonvane::tr(", is empty and does not contain any sound data.") + Tonvane::tr(kSelectAnother);
 }
 QString NotWaveQuestion(const QString& path) {
-  return FilePrefix() + path + TR(" does not contain a sound data characteristic for the Wav files.") +
-         TR(kSelectAnother);
+  return FilePrefix() + path + Tonvane::tr(" does not contain a sound data characteristic for the Wav files.") +
+         Tonvane::tr(kSelectAnother);
 }
 QString UnsupportedQuestion(const QString& path) { return UnsupportedFormatQuestion(path); }
 
@@ -132,10 +132,10 @@ void ReopenDialog(Session& s) {
 
 QString BitsLine(int bits) {
   switch (bits) {
-    case 8: return TR("  Bits on Readout   8");
-    case 16: return TR("  Bits on Readout  16");
-    case 24: return TR("  Bits on Readout  24");
-    default: return TR("  Bits on Readout  32");
+    case 8: return Tonvane::tr("  Bits on Readout   8");
+    case 16: return Tonvane::tr("  Bits on Readout  16");
+    case 24: return Tonvane::tr("  Bits on Readout  24");
+    default: return Tonvane::tr("  Bits on Readout  32");
   }
 }
 
@@ -150,16 +150,16 @@ uint32_t DurationMs(uint32_t dataSize, uint16_t blockAlign, uint32_t sampleRate)
 
 QString ScaleCaptionForBits(int bits) {
   switch (bits) {
-    case 8: return TR("100% = 41 dB");
-    case 24: return TR("100% = 137 dB");
-    case 32: return TR("100% = 185 dB");
-    default: return TR("100% = 89 dB");
+    case 8: return Tonvane::tr("100% = 41 dB");
+    case 24: return Tonvane::tr("100% = 137 dB");
+    case 32: return Tonvane::tr("100% = 185 dB");
+    default: return Tonvane::tr("100% = 89 dB");
   }
 }
 
 QStringList LevelCaptions(int channels) {
-  if (channels == 1) return {TR("Mono Channel"), QString()};
-  return {TR("Left Channel"), TR("Right Channel")};
+  if (channels == 1) return {Tonvane::tr("Mono Channel"), QString()};
+  return {Tonvane::tr("Left Channel"), Tonvane::tr("Right Channel")};
 }
 
 int OpenWav(Session& s) {
@@ -170,7 +170,7 @@ int OpenWav(Session& s) {
     g_workFile = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (g_workFile < 0) {
       const int err = errno;
-      ReportFileError(s, TR(" cannot be opened"), path, QString(), ErrorCodeFromErrno(err, path), true);
+      ReportFileError(s, Tonvane::tr(" cannot be opened"), path, QString(), ErrorCodeFromErrno(err, path), true);
       return 0;
     }
   }
@@ -178,7 +178,7 @@ int OpenWav(Session& s) {
   struct stat st;
   if (::fstat(g_workFile, &st) != 0) {
     const int err = errno;
-    s.m_prompt.Message(FilePrefix() + path + TR(" : ") + QString::fromLocal8Bit(std::strerror(err)),
+    s.m_prompt.Message(FilePrefix() + path + Tonvane::tr(" : ") + QString::fromLocal8Bit(std::strerror(err)),
                        PromptIcon::Error);
     CloseWorkFile(s);
     return 0;
@@ -186,13 +186,13 @@ int OpenWav(Session& s) {
   const uint64_t fileSize = uint64_t(st.st_size);
   if (fileSize == 0) {
     CloseWorkFile(s);
-    s.m_prompt.Message(FilePrefix() + path + TR(" is empty and does not contain any sound data."),
+    s.m_prompt.Message(FilePrefix() + path + Tonvane::tr(" is empty and does not contain any sound data."),
                        PromptIcon::Error);
     return 0;
   }
   if (!S_ISREG(st.st_mode)) {
     // Only a plain file can be mapped.
-    ReportFileError(s, TR("create object \"file-mapping object\" is impossible"), QString(), QString(),
+    ReportFileError(s, Tonvane::tr("create object \"file-mapping object\" is impossible"), QString(), QString(),
                     ErrorCodeFromErrno(ENODEV), false);
     CloseWorkFile(s);
     return 0;
@@ -203,7 +203,7 @@ int OpenWav(Session& s) {
   HeaderView view(g_workFile, fileSize);
   if (!view.Map(scanSpan < fileSize ? scanSpan : fileSize)) {
     const int err = errno;
-    ReportFileError(s, TR(" create a file mapping is impossible"), path, TR("Therefore the test will be stopped."),
+    ReportFileError(s, Tonvane::tr(" create a file mapping is impossible"), path, Tonvane::tr("Therefore the test will be stopped."),
                     ErrorCodeFromErrno(err, path), true);
     CloseWorkFile(s);
     return 0;
@@ -211,7 +211,7 @@ int OpenWav(Session& s) {
   const uint8_t* bytes = view.Data();
 
   if (bytes[0] == 0) {
-    s.m_statusText = TR("  Test is stopped");
+    s.m_statusText = Tonvane::tr("  Test is stopped");
     const bool yes = s.m_prompt.Ask(EmptyQuestion(path));
     view.Unmap();
     if (yes) {
@@ -226,7 +226,7 @@ int OpenWav(Session& s) {
   char wave[4];
   view.Read(8, wave, 4);
   if (std::memcmp(wave, "WAVE", 4) != 0) {
-    s.m_statusText = TR("  Test is stopped");
+    s.m_statusText = Tonvane::tr("  Test is stopped");
     const bool yes = s.m_prompt.Ask(NotWaveQuestion(path));
     view.Unmap();
     if (yes) {
@@ -309,7 +309,7 @@ int OpenWav(Session& s) {
   const bool channelsOk = f.channels == 1 || f.channels == 2;
   const bool bitsOk = f.bits == 8 || f.bits == 16 || f.bits == 24 || f.bits == 32;
   if (!channelsOk || !bitsOk) {
-    s.m_statusText = TR("  Test is stopped");
+    s.m_statusText = Tonvane::tr("  Test is stopped");
     const bool yes = s.m_prompt.Ask(UnsupportedQuestion(path));
     view.Unmap();
     if (yes) {
@@ -323,9 +323,9 @@ int OpenWav(Session& s) {
   }
 
   s.m_propertyLines[0] = BitsLine(f.bits);
-  s.m_propertyLines[1] = f.channels == 1 ? TR("  Channels             1") : TR("  Channels             2");
-  s.m_propertyLines[2] = TR("  Frequency          ") + QString::number(f.sampleRate) + TR(" Hz");
-  s.m_propertyLines[3] = f.tag == kTagFloat ? TR("  Audio Format      PCM IEEE Float") : TR("  Audio Format      PCM");
+  s.m_propertyLines[1] = f.channels == 1 ? Tonvane::tr("  Channels             1") : Tonvane::tr("  Channels             2");
+  s.m_propertyLines[2] = Tonvane::tr("  Frequency          ") + QString::number(f.sampleRate) + Tonvane::tr(" Hz");
+  s.m_propertyLines[3] = f.tag == kTagFloat ? Tonvane::tr("  Audio Format      PCM IEEE Float") : Tonvane::tr("  Audio Format      PCM");
   s.m_scaleLabel = ScaleCaptionForBits(f.bits);
 
   // The data offset and size stay known for the test; only the handle goes.
@@ -335,8 +335,8 @@ int OpenWav(Session& s) {
 
   if (s.m_noWorker || s.m_driveType == kDriveCdRom) return 1;
   if (!StartWorker([&s]() { return CopyWorkerBody(s); })) {
-    s.m_statusText = TR("  Test is stopped");
-    ReportFileError(s, TR("create a copy of the flow descriptor copying the file is"), QString(), QString(),
+    s.m_statusText = Tonvane::tr("  Test is stopped");
+    ReportFileError(s, Tonvane::tr("create a copy of the flow descriptor copying the file is"), QString(), QString(),
                     ErrorCodeFromErrno(EAGAIN), false);
     s.m_fileNotOpened = 1;
     return 0;

@@ -236,13 +236,13 @@ void WorkFileWriter::Close() {
 }
 
 QString WorkSeekFailedText(const QString& workPath) {
-  return TR("Sorry, but for file ") + workPath +
-         TR(" move pointer of current position of the file impossible. ") +
-         TR("Therefore the saving operation will be stopped.");
+  return Tonvane::tr("Sorry, but for file ") + workPath +
+         Tonvane::tr(" move pointer of current position of the file impossible. ") +
+         Tonvane::tr("Therefore the saving operation will be stopped.");
 }
 
 QString WorkWriteFailedText(const QString& workPath) {
-  return TR("Sorry, but an error of write has occurred to the output file: ") + workPath + ".";
+  return Tonvane::tr("Sorry, but an error of write has occurred to the output file: ") + workPath + ".";
 }
 
 void JoinWorker() {
@@ -344,7 +344,7 @@ int CopyWorkerBody(Session& s) {
   const bool full = IsDiskFull(err);
   const QString path = full ? source : work;
   const QString systemText = QString::fromLocal8Bit(std::strerror(full ? ENOSPC : err));
-  s.m_prompt.Message(TR(" Sorry, but the program can not continue operation with the file: ") + path + ". " +
+  s.m_prompt.Message(Tonvane::tr(" Sorry, but the program can not continue operation with the file: ") + path + ". " +
                          systemText,
                      PromptIcon::Error);
   g_workPath.clear();

@@ -16,21 +16,21 @@ DisplayRules RulesFor(int testMode, bool showDb, bool stereo, int bits, bool isM
   const bool peakPercent = testMode == 0 && !showDb;
   r.maxLabelShown[0] = !peakPercent;
   r.maxLabelShown[1] = !peakPercent && stereo;
-  r.maxLabelText = TR("Maximum Level");
+  r.maxLabelText = Tonvane::tr("Maximum Level");
   r.scaleLabelShown = testMode == 1 && !showDb;
   if (r.scaleLabelShown) r.scaleLabel = ScaleLabelText(bits, isMp3);
   r.rightBarShown = stereo;
-  r.title = TR("Volume Level");
-  r.subtitle = testMode == 0 ? TR("(Peak Level)") : TR("(Average Level)");
+  r.title = Tonvane::tr("Volume Level");
+  r.subtitle = testMode == 0 ? Tonvane::tr("(Peak Level)") : Tonvane::tr("(Average Level)");
   r.titleBetweenBars = stereo;
   if (stereo) {
-    r.caption[0] = TR("Left Channel");
-    r.caption[1] = TR("Right Channel");
+    r.caption[0] = Tonvane::tr("Left Channel");
+    r.caption[1] = Tonvane::tr("Right Channel");
   } else {
-    r.caption[0] = TR("Mono Channel");
+    r.caption[0] = Tonvane::tr("Mono Channel");
   }
   r.resetRangeTo100 = peakPercent;
-  r.barSuffix = showDb ? TR(" dB") : QString();
+  r.barSuffix = showDb ? Tonvane::tr(" dB") : QString();
   return r;
 }
 
@@ -41,7 +41,7 @@ LevelShowing ShowResult(Session& s, int currentTop) {
   const bool db = s.m_showDb != 0;
   const int refS = ReferenceS(s.m_bits, isMp3);
   const int n = stereo ? 2 : 1;
-  const QString suffix = db ? TR(" dB") : QString();
+  const QString suffix = db ? Tonvane::tr(" dB") : QString();
   out.rangeTop = currentTop;
 
   float* level[2] = {&s.m_levelLeft, &s.m_levelRight};

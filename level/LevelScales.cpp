@@ -15,7 +15,7 @@ int ReferenceS(int bits, bool isMp3) {
 }
 
 QString ScaleLabelText(int bits, bool isMp3) {
-  return TR("100% = ") + QString::number(ReferenceS(bits, isMp3)) + TR(" dB");
+  return Tonvane::tr("100% = ") + QString::number(ReferenceS(bits, isMp3)) + Tonvane::tr(" dB");
 }
 
 double RoundHalfUp(double x) {
@@ -113,6 +113,6 @@ int BarRangeTop(float left, float right, bool stereo, bool isMp3, int currentTop
 }
 
 QString MaxLevelLabelText(float value, bool showDb) {
-  if (showDb) return TR("Max Level ") + QString::asprintf("%1.1f", double(value)) + TR(" dB");
-  return TR("Max Level ") + QString::asprintf("%1.1f%%", double(value));
+  if (showDb) return Tonvane::tr("Max Level ") + QString::asprintf("%1.1f", double(value)) + Tonvane::tr(" dB");
+  return Tonvane::tr("Max Level ") + QString::asprintf("%1.1f%%", double(value));
 }

@@ -325,8 +325,8 @@ uint64_t BatchStepInterval(uint64_t frames, double share, double& remainder) {
 // The scan
 
 QString NoSoundDataQuestion(const QString& fileName) {
-  return TR("Sorry, but the test is stopped as the file ") + fileName +
-         TR(" is empty and does not contain a sound data. Please, select another file.\nDo You want to open a dialog of selection a file?");
+  return Tonvane::tr("Sorry, but the test is stopped as the file ") + fileName +
+         Tonvane::tr(" is empty and does not contain a sound data. Please, select another file.\nDo You want to open a dialog of selection a file?");
 }
 
 namespace {
@@ -418,7 +418,7 @@ bool FindSoundData(Session& s, MappedFile& file, bool windowed) {
   file.Unmap();
   s.m_mappedView = nullptr;
   if (!found) {
-    s.m_statusText = TR("  Test is stopped");
+    s.m_statusText = Tonvane::tr("  Test is stopped");
     s.m_prompt.Ask(NoSoundDataQuestion(s.m_fileName));
   }
   return found;
@@ -445,8 +445,8 @@ int ScanPeakLevels(Session& s) {
   MappedFile file;
   if (path.isEmpty() || !file.Open(path)) {
     const int err = path.isEmpty() ? ENOENT : file.LastErrno();
-    ReportFileError(s, TR(" open a temporary copy of the file "), s.m_fileName,
-                    TR("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
+    ReportFileError(s, Tonvane::tr(" open a temporary copy of the file "), s.m_fileName,
+                    Tonvane::tr("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
     s.StopTest();
     return 1;
   }

@@ -20,11 +20,11 @@ QString DataBaseSizeText(int64_t n) {
       x = d;
     }
   }
-  if (unit == 0) return QString::asprintf("%4d", int(n)).trimmed() + TR(" bytes");
+  if (unit == 0) return QString::asprintf("%4d", int(n)).trimmed() + Tonvane::tr(" bytes");
   const QString number =
       (x == std::floor(x) ? QString::asprintf("%4.0f", x) : QString::asprintf("%4.2f", x)).trimmed();
   static const char* const units[] = {"", " kB", " MB", " GB"};
-  return number + TR(units[unit]);
+  return number + Tonvane::tr(units[unit]);
 }
 
 bool DataBaseSizeLabel(const QString& path, QString& label) {
@@ -32,11 +32,11 @@ bool DataBaseSizeLabel(const QString& path, QString& label) {
   if (!f.open(QIODevice::ReadOnly)) return false;
   const int64_t size = f.size();
   f.close();
-  label = TR("Current size the Database: ") + DataBaseSizeText(size);
+  label = Tonvane::tr("Current size the Database: ") + DataBaseSizeText(size);
   return true;
 }
 
-QString DataBaseCapText(int mb) { return QString::asprintf("%d", mb) + TR(" MB"); }
+QString DataBaseCapText(int mb) { return QString::asprintf("%d", mb) + Tonvane::tr(" MB"); }
 
 int StepDataBaseCap(int position, int delta) {
   const int span = kDataBaseCapMax - kDataBaseCapMin + 1;

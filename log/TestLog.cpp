@@ -91,7 +91,7 @@ QString TestLog::LogPath() const {
 void TestLog::ReportError(int err) {
   QString text;
   if (err != 0) text = SystemErrorText(ErrorCodeFromErrno(err, LogPath()));
-  if (text.isEmpty()) text = TR("Sorry, but an error of opening has occurred the file \"TestLog.csv\".");
+  if (text.isEmpty()) text = Tonvane::tr("Sorry, but an error of opening has occurred the file \"TestLog.csv\".");
   m_s.m_prompt.Message(text, PromptIcon::Warning);
 }
 
@@ -599,5 +599,5 @@ void CheckLogAt(Session& s, const QString& path) { SettleLog(s, path, path); }
 void ClearLog(Session& s) {
   const QString path = s.m_logPath.isEmpty() ? Settings::PatchLog() : s.m_logPath;
   if (CreateEmptyLog(path))
-    s.m_prompt.Message(TR("The database has been successfully cleared"), PromptIcon::Information);
+    s.m_prompt.Message(Tonvane::tr("The database has been successfully cleared"), PromptIcon::Information);
 }

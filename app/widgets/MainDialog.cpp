@@ -112,47 +112,47 @@ QWidget* CBrenlowv10Dlg::control(int id) const {
 
 void CBrenlowv10Dlg::BuildMenus() {
   QMenuBar* mb = menuBar();
-  QMenu* file = mb->addMenu(TR("&File"));
-  AddCommand(file, kCmdOpen, TR("&Open..."), QKeySequence("Ctrl+O"));
-  AddCommand(file, kCmdClose, TR("&Close"), QKeySequence("Ctrl+W"));
+  QMenu* file = mb->addMenu(Tonvane::tr("&File"));
+  AddCommand(file, kCmdOpen, Tonvane::tr("&Open..."), QKeySequence("Ctrl+O"));
+  AddCommand(file, kCmdClose, Tonvane::tr("&Close"), QKeySequence("Ctrl+W"));
   file->addSeparator();
-  AddCommand(file, kCmdExit, TR("&Exit"), QKeySequence("Ctrl+X"));
+  AddCommand(file, kCmdExit, Tonvane::tr("&Exit"), QKeySequence("Ctrl+X"));
 
-  QMenu* test = mb->addMenu(TR("&Test"));
-  AddCommand(test, kCmdTest, TR("&Test"), QKeySequence("Ctrl+L"));
-  AddCommand(test, kCmdBatch, TR("&Batch Processor..."), QKeySequence("Ctrl+P"));
+  QMenu* test = mb->addMenu(Tonvane::tr("&Test"));
+  AddCommand(test, kCmdTest, Tonvane::tr("&Test"), QKeySequence("Ctrl+L"));
+  AddCommand(test, kCmdBatch, Tonvane::tr("&Batch Processor..."), QKeySequence("Ctrl+P"));
   test->addSeparator();
-  QMenu* show = test->addMenu(TR("&Show"));
-  AddCommand(show, kCmdShowPercent, TR("%"))->setCheckable(true);
-  AddCommand(show, kCmdShowDb, TR("dB"))->setCheckable(true);
+  QMenu* show = test->addMenu(Tonvane::tr("&Show"));
+  AddCommand(show, kCmdShowPercent, Tonvane::tr("%"))->setCheckable(true);
+  AddCommand(show, kCmdShowDb, Tonvane::tr("dB"))->setCheckable(true);
   test->addSeparator();
-  AddCommand(test, kCmdUseDatabase, TR("&Use Database"), QKeySequence("Alt+U"))->setCheckable(true);
-  AddCommand(test, kCmdClearDatabase, TR("&Clear Database"), QKeySequence("Alt+C"));
-  AddCommand(test, kCmdDatabase, TR("&Database..."), QKeySequence("Alt+D"));
+  AddCommand(test, kCmdUseDatabase, Tonvane::tr("&Use Database"), QKeySequence("Alt+U"))->setCheckable(true);
+  AddCommand(test, kCmdClearDatabase, Tonvane::tr("&Clear Database"), QKeySequence("Alt+C"));
+  AddCommand(test, kCmdDatabase, Tonvane::tr("&Database..."), QKeySequence("Alt+D"));
 
-  QMenu* player = mb->addMenu(TR("&Player"));
-  AddCommand(player, kCmdPlayPause, TR("Play / Pa&use"), QKeySequence("Ctrl+U"));
-  AddCommand(player, kCmdStop, TR("&Stop"), QKeySequence("Ctrl+T"));
-  QMenu* volume = player->addMenu(TR("&Volume"));
-  AddCommand(volume, kCmdVolumeUp, TR("Up"), QKeySequence("F10"));
-  AddCommand(volume, kCmdVolumeDown, TR("Down"), QKeySequence("F9"));
-  AddCommand(volume, kCmdMute, TR("Mute"), QKeySequence("F8"));
+  QMenu* player = mb->addMenu(Tonvane::tr("&Player"));
+  AddCommand(player, kCmdPlayPause, Tonvane::tr("Play / Pa&use"), QKeySequence("Ctrl+U"));
+  AddCommand(player, kCmdStop, Tonvane::tr("&Stop"), QKeySequence("Ctrl+T"));
+  QMenu* volume = player->addMenu(Tonvane::tr("&Volume"));
+  AddCommand(volume, kCmdVolumeUp, Tonvane::tr("Up"), QKeySequence("F10"));
+  AddCommand(volume, kCmdVolumeDown, Tonvane::tr("Down"), QKeySequence("F9"));
+  AddCommand(volume, kCmdMute, Tonvane::tr("Mute"), QKeySequence("F8"));
   player->addSeparator();
-  AddCommand(player, kCmdPrevious, TR("P&revious"), QKeySequence("P"));
-  AddCommand(player, kCmdNext, TR("&Next"), QKeySequence("N"));
-  AddCommand(player, kCmdShuffle, TR("&Shuffle"), QKeySequence("S"))->setCheckable(true);
-  AddCommand(player, kCmdRepeat, TR("&Repeat"), QKeySequence("R"))->setCheckable(true);
-  AddCommand(player, kCmdRepeatAll, TR("R&epeat All"), QKeySequence("L"))->setCheckable(true);
+  AddCommand(player, kCmdPrevious, Tonvane::tr("P&revious"), QKeySequence("P"));
+  AddCommand(player, kCmdNext, Tonvane::tr("&Next"), QKeySequence("N"));
+  AddCommand(player, kCmdShuffle, Tonvane::tr("&Shuffle"), QKeySequence("S"))->setCheckable(true);
+  AddCommand(player, kCmdRepeat, Tonvane::tr("&Repeat"), QKeySequence("R"))->setCheckable(true);
+  AddCommand(player, kCmdRepeatAll, Tonvane::tr("R&epeat All"), QKeySequence("L"))->setCheckable(true);
 
-  QMenu* options = mb->addMenu(TR("&Options"));
-  AddCommand(options, kCmdAlwaysOnTop, TR("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
-  AddCommand(options, kCmdBeep, TR("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
+  QMenu* options = mb->addMenu(Tonvane::tr("&Options"));
+  AddCommand(options, kCmdAlwaysOnTop, Tonvane::tr("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
+  AddCommand(options, kCmdBeep, Tonvane::tr("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
 
-  QMenu* help = mb->addMenu(TR("&Help"));
-  AddCommand(help, kCmdHelp, TR("Help &Tonvane"), QKeySequence("F1"));
-  AddCommand(help, kCmdHomepage, TR("&Open Homepage Tonvane"));
+  QMenu* help = mb->addMenu(Tonvane::tr("&Help"));
+  AddCommand(help, kCmdHelp, Tonvane::tr("Help &Tonvane"), QKeySequence("F1"));
+  AddCommand(help, kCmdHomepage, Tonvane::tr("&Open Homepage Tonvane"));
   help->addSeparator();
-  AddCommand(help, kCmdAbout, TR("&About Tonvane..."));
+  AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
 
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
@@ -176,7 +176,7 @@ void CBrenlowv10Dlg::BuildMenus() {
 }
 
 void CBrenlowv10Dlg::BuildToolBar() {
-  m_toolBar = addToolBar(TR("Tool Bar"));
+  m_toolBar = addToolBar(Tonvane::tr("Tool Bar"));
   m_toolBar->setObjectName("toolBar");
   m_toolBar->setMovable(false);
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -195,8 +195,8 @@ void CBrenlowv10Dlg::BuildToolBar() {
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
-    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), TR(it.caption));
-    a->setToolTip(TR(it.tip));
+    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), Tonvane::tr(it.caption));
+    a->setToolTip(Tonvane::tr(it.tip));
     a->setData(it.id);
     a->setObjectName(QStringLiteral("tool%1").arg(it.id));
     m_actions[it.id] = a;
@@ -211,7 +211,7 @@ void CBrenlowv10Dlg::BuildCentral() {
 
   // File line.
   auto* fileLine = new QHBoxLayout;
-  auto* fileLabel = MakeLabel(TR("File Name:"), central, "fileLabel");
+  auto* fileLabel = MakeLabel(Tonvane::tr("File Name:"), central, "fileLabel");
   m_fileCombo = new QComboBox(central);
   m_fileCombo->setObjectName("fileCombo");
   m_fileCombo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -223,12 +223,12 @@ void CBrenlowv10Dlg::BuildCentral() {
   connect(m_fileCombo, &QComboBox::activated, this, [this](int) { OpenByName(QString()); });
 
   // Group "Test".
-  auto* testGroup = new QGroupBox(TR("Test"), central);
+  auto* testGroup = new QGroupBox(Tonvane::tr("Test"), central);
   testGroup->setObjectName("testGroup");
   auto* testLayout = new QHBoxLayout(testGroup);
 
   auto* left = new QVBoxLayout;
-  m_testButton = new QPushButton(TR("Test"), testGroup);
+  m_testButton = new QPushButton(Tonvane::tr("Test"), testGroup);
   m_testButton->setObjectName("testButton");
   m_testButton->setMinimumHeight(30);
   left->addWidget(m_testButton);
@@ -237,14 +237,14 @@ void CBrenlowv10Dlg::BuildCentral() {
   panel->setFrameShape(QFrame::StyledPanel);
   auto* panelLayout = new QVBoxLayout(panel);
   panelLayout->setSpacing(2);
-  auto* header = MakeLabel(TR(" Property"), panel, "propertyHeader");
+  auto* header = MakeLabel(Tonvane::tr(" Property"), panel, "propertyHeader");
   QFont bold = header->font();
   bold.setBold(true);
   header->setFont(bold);
   panelLayout->addWidget(header);
   m_controls[kIdPropertyHeader] = header;
   for (int i = 0; i < 5; ++i) {
-    m_propertyLabels[size_t(i)] = MakeLabel(TR(kPropertyCaptions[i]), panel, QStringLiteral("property%1").arg(i + 1));
+    m_propertyLabels[size_t(i)] = MakeLabel(Tonvane::tr(kPropertyCaptions[i]), panel, QStringLiteral("property%1").arg(i + 1));
     QFont mono("Monospace");
     mono.setStyleHint(QFont::TypeWriter);
     m_propertyLabels[size_t(i)]->setFont(mono);
@@ -254,9 +254,9 @@ void CBrenlowv10Dlg::BuildCentral() {
   auto* radios = new QFrame(testGroup);
   radios->setFrameShape(QFrame::StyledPanel);
   auto* radiosLayout = new QVBoxLayout(radios);
-  m_peakRadio = new QRadioButton(TR("Test Peak Level"), radios);
+  m_peakRadio = new QRadioButton(Tonvane::tr("Test Peak Level"), radios);
   m_peakRadio->setObjectName("peakRadio");
-  m_averageRadio = new QRadioButton(TR("Test Average Level"), radios);
+  m_averageRadio = new QRadioButton(Tonvane::tr("Test Average Level"), radios);
   m_averageRadio->setObjectName("averageRadio");
   radiosLayout->addWidget(m_peakRadio);
   radiosLayout->addWidget(m_averageRadio);
@@ -274,16 +274,16 @@ void CBrenlowv10Dlg::BuildCentral() {
   auto* bars = new QGridLayout;
   m_leftBar = MakeLevelBar(testGroup, "leftBar");
   m_rightBar = MakeLevelBar(testGroup, "rightBar");
-  auto* leftTitle = MakeLabel(TR("Left"), testGroup, "leftTitle");
-  auto* rightTitle = MakeLabel(TR("Right"), testGroup, "rightTitle");
+  auto* leftTitle = MakeLabel(Tonvane::tr("Left"), testGroup, "leftTitle");
+  auto* rightTitle = MakeLabel(Tonvane::tr("Right"), testGroup, "rightTitle");
   leftTitle->setAlignment(Qt::AlignCenter);
   rightTitle->setAlignment(Qt::AlignCenter);
   m_scaleLabel = MakeLabel(QString(), testGroup, "scaleLabel");
   m_scaleLabel->setAlignment(Qt::AlignCenter);
   auto* maxLeft = MakeLabel(QString(), testGroup, "maxLevelLeft");
   auto* maxRight = MakeLabel(QString(), testGroup, "maxLevelRight");
-  auto* clipLeft = MakeLabel(TR("Clipping"), testGroup, "clippingLeft");
-  auto* clipRight = MakeLabel(TR("Clipping"), testGroup, "clippingRight");
+  auto* clipLeft = MakeLabel(Tonvane::tr("Clipping"), testGroup, "clippingLeft");
+  auto* clipRight = MakeLabel(Tonvane::tr("Clipping"), testGroup, "clippingRight");
   clipLeft->setVisible(false);
   clipRight->setVisible(false);
   const QString red = QStringLiteral("color: #ff0003; font-weight: bold;");  // 0x0300ff
@@ -319,7 +319,7 @@ void CBrenlowv10Dlg::BuildCentral() {
   outer->addWidget(testGroup, 1);
 
   // Group "Player".
-  auto* playerGroup = new QGroupBox(TR("Player"), central);
+  auto* playerGroup = new QGroupBox(Tonvane::tr("Player"), central);
   playerGroup->setObjectName("playerGroup");
   auto* playerLayout = new QVBoxLayout(playerGroup);
   m_seekBar = new QSlider(Qt::Horizontal, playerGroup);
@@ -346,7 +346,7 @@ void CBrenlowv10Dlg::BuildCentral() {
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
     tb->setIcon(st->standardIcon(b.icon));
-    tb->setToolTip(TR(b.tip));
+    tb->setToolTip(Tonvane::tr(b.tip));
     tb->setObjectName(QStringLiteral("transport%1").arg(b.id));
     tb->setIconSize(QSize(22, 22));
     tb->setEnabled(false);  // the transport starts disabled
@@ -362,14 +362,14 @@ void CBrenlowv10Dlg::BuildCentral() {
   m_volumeSlider->setTickPosition(QSlider::TicksBelow);
   m_volumeSlider->setTickInterval(10);
   m_volumeSlider->setMinimumWidth(160);
-  m_volumeSlider->setToolTip(TR("Volume"));
+  m_volumeSlider->setToolTip(Tonvane::tr("Volume"));
   volumeBox->addWidget(m_volumeSlider);
   auto* marks = new QHBoxLayout;
-  marks->addWidget(MakeLabel(TR("0"), playerGroup, "mark0"));
+  marks->addWidget(MakeLabel(Tonvane::tr("0"), playerGroup, "mark0"));
   marks->addStretch(1);
-  marks->addWidget(MakeLabel(TR("50"), playerGroup, "mark50"));
+  marks->addWidget(MakeLabel(Tonvane::tr("50"), playerGroup, "mark50"));
   marks->addStretch(1);
-  marks->addWidget(MakeLabel(TR("100"), playerGroup, "mark100"));
+  marks->addWidget(MakeLabel(Tonvane::tr("100"), playerGroup, "mark100"));
   volumeBox->addLayout(marks);
   transport->addLayout(volumeBox);
   m_controls[kIdVolume] = m_volumeSlider;
@@ -386,15 +386,15 @@ void CBrenlowv10Dlg::BuildCentral() {
     l->setMinimumWidth(28);
     return l;
   };
-  times->addWidget(MakeLabel(TR("Time:"), playerGroup, "timeCaption"), 0, 0);
+  times->addWidget(MakeLabel(Tonvane::tr("Time:"), playerGroup, "timeCaption"), 0, 0);
   times->addWidget(field("posMinutes"), 0, 1);
   times->addWidget(field("posSeconds"), 0, 2);
   times->addWidget(field("posHundredths"), 0, 3);
-  times->addWidget(MakeLabel(TR("Total Time:"), playerGroup, "totalCaption"), 1, 0);
+  times->addWidget(MakeLabel(Tonvane::tr("Total Time:"), playerGroup, "totalCaption"), 1, 0);
   times->addWidget(field("totalMinutes"), 1, 1);
   times->addWidget(field("totalSeconds"), 1, 2);
   times->addWidget(field("totalHundredths"), 1, 3);
-  times->addWidget(MakeLabel(TR("(ms)"), playerGroup, "timeUnit"), 1, 4);
+  times->addWidget(MakeLabel(Tonvane::tr("(ms)"), playerGroup, "timeUnit"), 1, 4);
   transport->addLayout(times);
   playerLayout->addLayout(transport);
   outer->addWidget(playerGroup);
@@ -419,7 +419,7 @@ void CBrenlowv10Dlg::BuildStatusBar() {
 void CBrenlowv10Dlg::RenderFromSession() {
   for (int i = 0; i < 5; ++i) {
     const QString& line = m_s.m_propertyLines[i];
-    m_propertyLabels[size_t(i)]->setText(line.isEmpty() ? TR(kPropertyCaptions[i]) : line);
+    m_propertyLabels[size_t(i)]->setText(line.isEmpty() ? Tonvane::tr(kPropertyCaptions[i]) : line);
   }
   m_scaleLabel->setText(m_s.m_scaleLabel);
   m_scaleLabel->setVisible(m_s.m_scaleLabelVisible != 0);
@@ -446,7 +446,7 @@ void CBrenlowv10Dlg::ApplyEnablingRules() {
     action(757)->setEnabled(false);
     action(304)->setEnabled(false);
     if (m_s.m_idleStatusShown) {
-      m_s.m_statusText = TR("  Copying of the file is fulfilling");
+      m_s.m_statusText = Tonvane::tr("  Copying of the file is fulfilling");
       m_statusText->setText(m_s.m_statusText);
       m_s.m_idleStatusShown = 0;
     }
@@ -528,17 +528,17 @@ void CBrenlowv10Dlg::OpenByName(const QString& path) {
 void CBrenlowv10Dlg::OnFileOpen() {
   if (m_s.m_testRunning || g_workerBusy.load()) return;
   const QStringList filters = {
-      TR("All Files (*.*)") + " (*)",
-      TR("Wave Files (*.wav; *.wave)") + " (*.wav *.wave)",
-      TR("Mp3 Files (*.mp3; *.mpga)") + " (*.mp3 *.mpga)",
-      TR("FLAC Files (*.flac; *.fla)") + " (*.flac *.fla)",
-      TR("Ogg Files (*.ogg)") + " (*.ogg)",
-      TR("APE Files (*.ape)") + " (*.ape)",
-      TR("AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)") + " (*.m4a *.m4b *.mp4 *.m4p *.m4r *.aac)"};
+      Tonvane::tr("All Files (*.*)") + " (*)",
+      Tonvane::tr("Wave Files (*.wav; *.wave)") + " (*.wav *.wave)",
+      Tonvane::tr("Mp3 Files (*.mp3; *.mpga)") + " (*.mp3 *.mpga)",
+      Tonvane::tr("FLAC Files (*.flac; *.fla)") + " (*.flac *.fla)",
+      Tonvane::tr("Ogg Files (*.ogg)") + " (*.ogg)",
+      Tonvane::tr("APE Files (*.ape)") + " (*.ape)",
+      Tonvane::tr("AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)") + " (*.m4a *.m4b *.mp4 *.m4p *.m4r *.aac)"};
   int index = qBound(1, Settings::NumberFilter(), int(filters.size())) - 1;
   QString selected = filters.at(index);
   const QString folder = m_s.m_fileName.isEmpty() ? QString() : QFileInfo(m_s.m_fileName).absolutePath();
-  const QString path = QFileDialog::getOpenFileName(this, TR("Open      "), folder, filters.join(";;"), &selected);
+  const QString path = QFileDialog::getOpenFileName(this, Tonvane::tr("Open      "), folder, filters.join(";;"), &selected);
   const int chosen = int(filters.indexOf(selected));
   if (chosen >= 0) Settings::SetInt("NumberFilter", chosen + 1);
   if (path.isEmpty() || path == m_s.m_fileName) return;
@@ -610,7 +610,7 @@ void CBrenlowv10Dlg::OnTest() {
     m_s.m_cancelRequested = 1;  // the running test ends from inside its own loop
     return;
   }
-  m_testButton->setText(TR("Cancel"));
+  m_testButton->setText(Tonvane::tr("Cancel"));
   m_statusProgress->setValue(0);
   m_statusProgress->setVisible(true);
   for (int id : {757, 309, 304}) action(id)->setEnabled(false);
@@ -625,7 +625,7 @@ void CBrenlowv10Dlg::OnTest() {
   const int ok = RunTestOnOpenFile(m_s, fromLog);
   m_pumpUi.onProgress = [this](int percent) { m_statusProgress->setValue(percent); };
   setWindowTitle(savedTitle);
-  m_testButton->setText(TR("Test"));
+  m_testButton->setText(Tonvane::tr("Test"));
   if (!ok) {
     m_statusProgress->setVisible(false);
     m_s.m_levelLeft = m_s.m_levelRight = -1.0f;
@@ -649,7 +649,7 @@ void CBrenlowv10Dlg::ShowLevels() {
     const QString unit = m_s.m_showDb ? QStringLiteral(" dB") : QStringLiteral("%");
     m_levelTexts[i]->setText(have ? QString::asprintf(m_s.m_showDb || m_s.m_testMode == 1 ? "%1.1f" : "%1.0f", v.level) + unit
                                   : QString());
-    m_maxLabels[i]->setText(have && v.hasMax ? TR("Max Level ") + QString::asprintf("%1.1f", v.maxLevel) + unit
+    m_maxLabels[i]->setText(have && v.hasMax ? Tonvane::tr("Max Level ") + QString::asprintf("%1.1f", v.maxLevel) + unit
                                              : QString());
     m_clipLabels[i]->setVisible(have && v.hasVerdict && v.clipping);
     const QString chunk = have && v.hasVerdict && v.clipping ? "#ff0003" : "#0000ff";

@@ -33,7 +33,7 @@ PromptAnswer QtPrompt::ShowHere(const PromptRequest& request) {
   }
   QCheckBox* dontShow = nullptr;
   if (request.dontShowBox) {
-    dontShow = new QCheckBox(TR("Don't show again"), &box);
+    dontShow = new QCheckBox(Tonvane::tr("Don't show again"), &box);
     box.setCheckBox(dontShow);
   }
   int result = box.exec();

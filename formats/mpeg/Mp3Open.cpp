@@ -132,26 +132,26 @@ QString Mp3BitRateLine(int bitRate) {
     case 64000: case 80000: case 96000: case 112000: case 128000: case 144000: case 160000:
     case 176000: case 192000: case 224000: case 256000: case 288000: case 320000: case 352000:
     case 384000: case 416000: case 448000:
-      return TR("  Bit Rate              ") + QString::number(bitRate / 1000) + TR(" kbps");
+      return Tonvane::tr("  Bit Rate              ") + QString::number(bitRate / 1000) + Tonvane::tr(" kbps");
     default:
       // The average of a walk is already in kbit/s.
-      return TR("  Bit Rate              ") + QString::number(bitRate) + TR(" kbps");
+      return Tonvane::tr("  Bit Rate              ") + QString::number(bitRate) + Tonvane::tr(" kbps");
   }
 }
 
 QString Mp3ModeLine(uint32_t channelMode) {
   switch (channelMode) {
-    case 0: return TR("  Mode                  Stereo");
-    case 1: return TR("  Mode                  Joint Stereo");
-    case 2: return TR("  Mode                  Dual Channels");
-    default: return TR("  Mode                  Mono");
+    case 0: return Tonvane::tr("  Mode                  Stereo");
+    case 1: return Tonvane::tr("  Mode                  Joint Stereo");
+    case 2: return Tonvane::tr("  Mode                  Dual Channels");
+    default: return Tonvane::tr("  Mode                  Mono");
   }
 }
 
-QString Mp3CodingLine(int vbr) { return TR("  ") + TR("Coding Method") + TR("   ") + (vbr ? TR("VBR") : TR("CBR")); }
+QString Mp3CodingLine(int vbr) { return Tonvane::tr("  ") + Tonvane::tr("Coding Method") + Tonvane::tr("   ") + (vbr ? Tonvane::tr("VBR") : Tonvane::tr("CBR")); }
 
 QString Mp3SampleRateLine(uint32_t sampleRate) {
-  return TR("  Sample Rate       ") + QString::number(sampleRate) + TR(" Hz");
+  return Tonvane::tr("  Sample Rate       ") + QString::number(sampleRate) + Tonvane::tr(" Hz");
 }
 
 namespace {
@@ -164,14 +164,14 @@ int64_t CheckSource(Session& s, const QString& path) {
   const QByteArray native = QFile::encodeName(path);
   int fd = ::open(native.constData(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) {
-    ReportFileError(s, TR(" cannot be opened"), path, {}, ErrorCodeFromErrno(errno, path), true);
+    ReportFileError(s, Tonvane::tr(" cannot be opened"), path, {}, ErrorCodeFromErrno(errno, path), true);
     return -1;
   }
   struct stat st;
   if (::fstat(fd, &st) != 0) {
     const int err = errno;
     ::close(fd);
-    s.m_prompt.Message(TR("Sorry, but ") + TR("the file ") + path + " : " +
+    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path + " : " +
                        SystemErrorText(ErrorCodeFromErrno(err, path)));
     return -1;
   }
@@ -184,8 +184,8 @@ int64_t CheckSource(Session& s, const QString& path) {
   if (view == MAP_FAILED) {
     const int err = errno;
     ::close(fd);
-    ReportFileError(s, TR("carry out data-file-mapping to the process's address space is"), path,
-                    TR("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
+    ReportFileError(s, Tonvane::tr("carry out data-file-mapping to the process's address space is"), path,
+                    Tonvane::tr("Therefore the test will be stopped."), ErrorCodeFromErrno(err, path), true);
     return -1;
   }
   ::munmap(view, size);
@@ -210,12 +210,12 @@ int OpenMp3(Session& s) {
     return true;
   });
   if (result == Mp3ReadResult::Errors) {
-    s.m_prompt.Message(TR("Sorry, the file opening was stopped because the file has errors."), PromptIcon::Error);
+    s.m_prompt.Message(Tonvane::tr("Sorry, the file opening was stopped because the file has errors."), PromptIcon::Error);
     return 0;
   }
   if (result != Mp3ReadResult::Ok) {
     if (s.m_navigating == 0) {
-      s.m_statusText = TR("  Test is stopped");
+      s.m_statusText = Tonvane::tr("  Test is stopped");
       if (s.m_prompt.Ask(UnsupportedQuestion(path))) {
         // Let go of the file and offer the open dialog again.
         CloseWorkFile(s);
@@ -241,7 +241,7 @@ int OpenMp3(Session& s) {
   s.m_propertyLines[1] = Mp3ModeLine(p.channelMode);
   s.m_propertyLines[2] = Mp3CodingLine(p.vbr);
   s.m_propertyLines[3] = Mp3SampleRateLine(p.sampleRate);
-  s.m_propertyLines[4] = TR("  Size                    ") + SizeText(p.fileSize);
+  s.m_propertyLines[4] = Tonvane::tr("  Size                    ") + SizeText(p.fileSize);
   // The gain engine decodes MP3 by itself; there are no samples here to find peaks in.
   s.m_testMode = 1;
 
@@ -249,8 +249,8 @@ int OpenMp3(Session& s) {
     try {
       StartWorker([&s] { return CopyWorkerBody(s); });
     } catch (const std::system_error&) {
-      s.m_statusText = TR("  Test is stopped");
-      ReportFileError(s, TR("create a copy of the flow descriptor copying the file is"), path, {},
+      s.m_statusText = Tonvane::tr("  Test is stopped");
+      ReportFileError(s, Tonvane::tr("create a copy of the flow descriptor copying the file is"), path, {},
                       ErrorCodeFromErrno(EAGAIN, path), true);
       s.m_fileNotOpened = 1;
     }
