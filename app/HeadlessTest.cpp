@@ -6,6 +6,8 @@
 
 #include "app/FileErrors.h"
 #include "app/Globals.h"
+#include "app/Job.h"
+#include "app/MeasureFile.h"
 #include "app/Session.h"
 #include "app/Text.h"
 #include "formats/FlacSource.h"
@@ -33,19 +35,6 @@ void ResetFile(Session& s) {
   s.m_noClipDbLeft = s.m_noClipDbRight = 0;
   s.m_result = LevelResult{};
   s.m_cancelRequested = 0;
-}
-
-// Removes the work file unless it is the source itself (read in place).
-void DropWorkFile() {
-  if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
-  ClearSessionPaths();
-}
-
-// The source can be measured where it lies: a PCM WAV by the scanner and the gain engine,
-// an MP3 by the engine, which decodes by itself.
-bool ReadInPlace(const Session& s, int testMode) {
-  if (s.m_sourceKind == kKindMp3) return testMode == 1;
-  return s.m_sourceKind == kKindWav && (s.m_formatTag == 1 || s.m_formatTag == 3);
 }
 
 LogTest GroupOf(int testMode, int showDb) {
@@ -78,6 +67,25 @@ void ResultToPeak(Session& s) {
   } else {
     s.m_levelLeft = s.m_result.WavLeft;
     s.m_levelRight = s.m_result.WavRight;
+  }
+}
+
+// Takes the group of the test from a measurement; the other groups stay as the log's row
+// had them.
+void TakeGroup(LevelResult& to, const LevelResult& from, int mode, int showDb) {
+  if (mode == 1) {
+    to.GainLeft = from.GainLeft;
+    to.GainRight = from.GainRight;
+    to.NoClippingLeft = from.NoClippingLeft;
+    to.NoClippingRight = from.NoClippingRight;
+  } else if (showDb) {
+    to.WavPikLeft = from.WavPikLeft;
+    to.WavPikRight = from.WavPikRight;
+    to.WavPikNoClippingLeft = from.WavPikNoClippingLeft;
+    to.WavPikNoClippingRight = from.WavPikNoClippingRight;
+  } else {
+    to.WavLeft = from.WavLeft;
+    to.WavRight = from.WavRight;
   }
 }
 
@@ -137,7 +145,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   const QString full = QFileInfo(path).absoluteFilePath();
 
   auto fail = [&](const QString& fallback) {
-    DropWorkFile();
+    ClearSessionPaths();
     r.ok = false;
     QStringList texts = prompt.texts();
     r.error = texts.isEmpty() ? fallback : texts.join('\n');
@@ -175,25 +183,23 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   if (LookUpLog(s, full, mode, fromLog)) {
     r.fromLog = true;
   } else {
-    if (ReadInPlace(s, mode)) {
-      g_workPath = g_sourcePath;
-    } else {
-      const LevelResult carried = s.m_result;  // the groups a partial row keeps
-      ResetFile(s);
-      s.m_result = carried;
-      s.m_testMode = mode;
-      s.m_showDb = options.showDb;
-      if (!OpenFileHeadless(s, full))
-        return fail(Tonvane::tr("Sorry, but the file ") + full + Tonvane::tr(" cannot be opened"));
-      WaitForWorker(s);
-      if (g_copyFailed.exchange(0) || g_workPath.isEmpty())
-        return fail(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it."));
-      // A FLAC file whose decoder reported errors opens, but is not tested.
-      if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName))
-        return fail(Tonvane::tr("Sorry but the file ") + s.m_fileName + Tonvane::tr(" has errors. ") + FlacStatusText(g_flacStatus));
+    // Straight from the source through the streaming analyser: no work file is made, so a
+    // window that has the same file open keeps its own.
+    ClearSessionPaths();
+    JobControl control;
+    const MeasureReport m = MeasureFile(full, s.m_sourceKind, mode, control);
+    // The decoder's messages are this file's, also when the measurement stands.
+    for (const QString& text : m.messages) {
+      PromptRequest request;
+      request.text = text;
+      prompt.requests.push_back(request);
     }
-    if (!MeasureWorkFile(s, mode))
+    if (m.status != MeasureStatus::Ok) {
+      if (m.status == MeasureStatus::Damaged && s.m_sourceKind == kKindFlac && m.flacError != kFlacNoError)
+        return fail(Tonvane::tr("Sorry but the file ") + full + Tonvane::tr(" has errors. ") + FlacStatusText(m.flacError));
       return fail(Tonvane::tr("Sorry, but the test of the file ") + full + Tonvane::tr(" has failed."));
+    }
+    TakeGroup(s.m_result, m.result, mode, s.m_showDb);
     StoreInLog(s, full, mode);
   }
 
@@ -201,7 +207,7 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   r.levels = ChannelLevels(s);
   r.result = s.m_result;
   r.ok = true;
-  DropWorkFile();
+  ClearSessionPaths();
   return r;
 }
 

@@ -18,6 +18,7 @@
 #include "formats/AacDecode.h"
 #include "formats/AacFile.h"
 #include "formats/AlacDecoder.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 namespace {
@@ -80,28 +81,18 @@ void BM_Decode_Ours(benchmark::State& state, const char* file) {
   }
 }
 
-class QuietPrompt : public IPrompt {
- public:
-  PromptAnswer Show(const PromptRequest& r) override {
-    std::fprintf(stderr, "%s\n", r.text.toUtf8().constData());
-    return {};
-  }
-};
-
 // The decoder thread's whole work: map, walk, decode, write the work file, patch it.
 void BM_WorkFile_Ours(benchmark::State& state, const char* file) {
-  QuietPrompt prompt;
   for (auto _ : state) {
-    Session s;
-    s.m_prompt.SetUi(&prompt);
-    g_sourcePath = In(file);
-    g_workPath = In("work.tmp");
-    if (DecodeAlac(s) != 0) {
+    DecodeJob job;
+    job.kind = kKindAlac;
+    job.source = In(file);
+    WorkFileWriter sink(In("work.tmp"), job.source);
+    if (DecodeMp4OrAac(job, sink) != DecodeStatus::Ok) {
       state.SkipWithError("decoding failed");
       break;
     }
   }
-  ClearSessionPaths();
 }
 
 void BM_Ffmpeg_Null(benchmark::State& state, const char* file) {

@@ -15,6 +15,7 @@
 #include "app/Prompt.h"
 #include "app/Session.h"
 #include "formats/ApeSource.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 namespace {
@@ -29,19 +30,17 @@ QString SourcePath() {
 QString WorkPath() { return QDir::tempPath() + "/tonvane_bench_ape.tmp"; }
 
 void BM_TonvaneApeToWorkFile(benchmark::State& state) {
-  StderrPrompt prompt;
-  Session s;
-  s.m_prompt.SetUi(&prompt);
   for (auto _ : state) {
-    g_sourcePath = SourcePath();
-    g_workPath = WorkPath();
-    if (ApeWorkerBody(s) != 0) {
-      state.SkipWithError("the worker failed");
+    DecodeJob job;
+    job.kind = kKindApe;
+    job.source = SourcePath();
+    WorkFileWriter sink(WorkPath(), job.source);
+    if (DecodeApe(job, sink) != DecodeStatus::Ok) {
+      state.SkipWithError("the decoder failed");
       break;
     }
   }
   QFile::remove(WorkPath());
-  ClearSessionPaths();
 }
 
 void BM_FfmpegApeToNull(benchmark::State& state) {

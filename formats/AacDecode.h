@@ -1,17 +1,8 @@
 #pragma once
-// The decoder threads of the AAC kind. Each works from g_sourcePath alone (it parses the
-// source again), writes the PCM work file at g_workPath with the 44-byte header, patches
-// its sizes at the end and returns the thread's exit code (0 when the file was written).
+// The decode loops of the AAC kind (DecodeMp4OrAac in formats/Decode.h): AAC in an MP4
+// container through the mp4ff reader and faad2, a raw ADTS or ADIF stream through faad2,
+// ALAC packet by packet. Each parses the source again and needs nothing of the open.
 #include <QString>
-
-struct Session;
-
-// AAC in an MP4 container: the mp4ff reader and faad2, sample by sample.
-int DecodeMp4Aac(Session& s);
-// A raw ADTS or ADIF stream: faad2 over the mapped file.
-int DecodeRawAac(Session& s);
-// ALAC in an MP4 container: packets one after the other from the start of the media data.
-int DecodeAlac(Session& s);
 
 // The family of the decoder threads' boxes with "Don't show again": one memory of the tick
 // for all of them, so a file with many bad frames does not pile up boxes.

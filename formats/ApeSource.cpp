@@ -11,6 +11,7 @@
 #include "app/Session.h"
 #include "app/Text.h"
 #include "formats/ApeDecoder.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 namespace {
@@ -42,74 +43,64 @@ QString ApeDecodeErrorText(const QString& path, int error) {
   return opening + Tonvane::tr(" The file ") + path + Tonvane::tr(" is damaged: its sound data does not pass its check.");
 }
 
-int ApeWorkerBody(Session& s) {
-  const QString source = g_sourcePath;
-  const QString work = g_workPath;
-  // Every failure ends the worker with its message; the test then stops rather than
-  // measure a work file that lacks samples.
-  auto failed = [] {
-    g_copyFailed = 1;
-    return 1;
+DecodeStatus DecodeApe(DecodeJob& job, PcmSink& sink) {
+  // Every failure leaves nothing worth measuring: the test then stops rather than measure
+  // a stream that lacks samples.
+  auto failed = [&job](DecodeStatus status) {
+    job.stopsTest = true;
+    return job.status = status;
   };
-
   int error = 0;
-  APE_DECOMPRESS_HANDLE h = CreateDecoder(source, error);
+  APE_DECOMPRESS_HANDLE h = CreateDecoder(job.source, error);
   if (!h) {
-    s.m_prompt.Message(NotOpenedText(source), PromptIcon::Error);
-    return failed();
+    job.Report(NotOpenedText(job.source));
+    return failed(DecodeStatus::CannotOpen);
   }
+  struct Release {
+    APE_DECOMPRESS_HANDLE h;
+    ~Release() { c_APEDecompress_Destroy(h); }
+  } release{h};
   const int64_t dataBytes = c_APEDecompress_GetInfo(h, ape::kInfoWavDataBytes);
-  const int channels = int(c_APEDecompress_GetInfo(h, ape::kInfoChannels));
-  const int rate = int(c_APEDecompress_GetInfo(h, ape::kInfoSampleRate));
-  const int bits = int(c_APEDecompress_GetInfo(h, ape::kInfoBitsPerSample));
-  const uint32_t headerBytes = dataBytes > int64_t(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(dataBytes);
-
-  WorkFileWriter out;
-  if (!out.Open(work, source)) {
-    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + work + Tonvane::tr(" cannot be created."), PromptIcon::Error);
-    c_APEDecompress_Destroy(h);
-    return failed();
+  PcmFormat f;
+  f.channels = int(c_APEDecompress_GetInfo(h, ape::kInfoChannels));
+  f.sampleRate = int(c_APEDecompress_GetInfo(h, ape::kInfoSampleRate));
+  f.bits = int(c_APEDecompress_GetInfo(h, ape::kInfoBitsPerSample));
+  f.dataBytes = dataBytes > int64_t(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(std::max<int64_t>(dataBytes, 0));
+  if (!(f.channels == 1 || f.channels == 2) || !(f.bits == 8 || f.bits == 16 || f.bits == 24)) {
+    job.Report(UnsupportedFormatQuestion(job.source));
+    return failed(DecodeStatus::Unsupported);
   }
-  if (!out.WriteHeader(channels, rate, bits, 1, headerBytes)) {
-    out.Close();
-    s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
-    c_APEDecompress_Destroy(h);
-    return failed();
-  }
+  if (!job.Begin(sink, f)) return failed(job.status);
 
   const int64_t align = c_APEDecompress_GetInfo(h, ape::kInfoBlockAlign);
-  std::vector<char> buffer(size_t(align * kBlocksPerRead));
+  const int64_t totalBlocks = align > 0 ? dataBytes / align : 0;
+  std::vector<char> buffer(size_t(std::max<int64_t>(align, 1) * kBlocksPerRead));
+  int64_t done = 0;
   for (;;) {
     int64_t got = 0;
     const int rc = c_APEDecompress_GetData(h, buffer.data(), kBlocksPerRead, &got);
     // The blocks before a damaged frame are good; the damaged frame gives none.
-    if (got > 0 && !out.Write(buffer.data(), size_t(got * align))) {
-      out.Close();
-      s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
-      c_APEDecompress_Destroy(h);
-      return failed();
+    if (got > 0 && !job.Write(sink, buffer.data(), size_t(got * align))) {
+      sink.End(SizeRule::AsAnnounced);
+      return failed(job.status);
     }
     if (rc != ape::kOk) {
-      out.Close();
-      s.m_prompt.Message(ApeDecodeErrorText(source, rc), PromptIcon::Error);
-      c_APEDecompress_Destroy(h);
-      return failed();
+      sink.End(SizeRule::AsAnnounced);
+      job.Report(ApeDecodeErrorText(job.source, rc));
+      return failed(DecodeStatus::Damaged);
     }
     if (got == 0) break;
+    done += got;
+    if (!job.Checkpoint(totalBlocks > 0 ? double(done) / double(totalBlocks) : 0.0)) {
+      sink.End(SizeRule::AsAnnounced);
+      return job.status;
+    }
   }
-
-  const double total = double(out.Total());
-  const uint32_t written = total > double(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(total);
-  if (!out.PatchSizesIfDifferent(written)) {
-    s.m_prompt.Message(out.LastStep() == 1 ? WorkSeekFailedText(work) : WorkWriteFailedText(work),
-                       PromptIcon::Error);
-    out.Close();
-    c_APEDecompress_Destroy(h);
-    return failed();
+  if (!sink.End(SizeRule::IfDifferent)) {
+    job.Report(sink.FailureText());
+    return failed(DecodeStatus::SinkFailed);
   }
-  out.Close();
-  c_APEDecompress_Destroy(h);
-  return 0;
+  return job.status;
 }
 
 int OpenApe(Session& s) {
@@ -146,7 +137,16 @@ int OpenApe(Session& s) {
   c_APEDecompress_Destroy(h);
 
   if (s.m_noWorker) return 1;
-  Session* session = &s;
-  StartWorker([session]() { return ApeWorkerBody(*session); });
-  return 1;
+  auto job = std::make_shared<DecodeJob>();
+  job->kind = kKindApe;
+  job->source = g_sourcePath;
+  job->prompt = &s.m_prompt;
+  auto sink = std::make_shared<WorkFileWriter>(g_workPath, g_sourcePath);
+  return StartWorkerOrReport(
+             s, [job, sink] { return DecodeApe(*job, *sink) == DecodeStatus::Ok ? 0 : 1; },
+             [job](Session&) {
+               if (job->stopsTest) g_copyFailed = 1;
+             })
+             ? 1
+             : 0;
 }

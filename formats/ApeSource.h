@@ -9,10 +9,6 @@ struct Session;
 // Returns 1 on success; otherwise it has shown its own message.
 int OpenApe(Session& s);
 
-// The worker: decodes g_sourcePath into g_workPath in blocks of 1024 sample frames. On any
-// failure it shows its message, sets g_copyFailed and returns 1; 0 on success.
-int ApeWorkerBody(Session& s);
-
 // Texts of a file the decoder refuses at open, and of a damaged or cut stream.
 QString ApeOpenFailureText(const QString& path, int error);
 QString ApeDecodeErrorText(const QString& path, int error);

@@ -16,10 +16,10 @@
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 std::atomic<int> g_flacStatus{kFlacNoError};
-std::atomic<int> g_flacAborted{0};
 
 namespace {
 
@@ -35,36 +35,24 @@ bool IsSupported(const FlacStreamInfo& i) {
   return (i.channels == 1 || i.channels == 2) && (i.bits == 8 || i.bits == 16 || i.bits == 24);
 }
 
-// One decoding: the decoder, its output and the stream values. The open and the worker
-// share it; the open reads the values only through `taken`, the copy made when the
-// stream-info block arrived, because the worker clears `info` at its end, which on a very
-// short file can come before the open has looked.
-struct FlacJob {
-  FLAC__StreamDecoder* decoder = nullptr;
-  Session* s = nullptr;
-  WorkFileWriter* out = nullptr;
-  QString outPath;
-  bool onCallerThread = false;  // the batch decodes on the window's thread and may pump
-  bool headerWritten = false;
+// The decoder handle, released on every way out.
+struct FlacDecoderHandle {
+  FLAC__StreamDecoder* d = FLAC__stream_decoder_new();
+  ~FlacDecoderHandle() {
+    if (d) FLAC__stream_decoder_delete(d);
+  }
+  FlacDecoderHandle() = default;
+  FlacDecoderHandle(const FlacDecoderHandle&) = delete;
+  FlacDecoderHandle& operator=(const FlacDecoderHandle&) = delete;
+};
+
+// One decoding: the job, its sink and the stream values.
+struct FlacRun {
+  DecodeJob* job = nullptr;
+  PcmSink* sink = nullptr;
+  bool headerOnly = false;
   FlacStreamInfo info;
   std::vector<uint8_t> frame;  // one frame interleaved, reused
-
-  std::mutex lock;
-  std::condition_variable signal;
-  bool infoReady = false;
-  FlacStreamInfo taken;
-
-  void SetInfoReady() {
-    std::lock_guard<std::mutex> g(lock);
-    if (!infoReady) taken = info;
-    infoReady = true;
-    signal.notify_all();
-  }
-  FlacStreamInfo WaitInfo() {
-    std::unique_lock<std::mutex> g(lock);
-    signal.wait(g, [this] { return infoReady; });
-    return taken;
-  }
 };
 
 // Interleaves one frame into `dst` in the work file's form: 16 and 24 bits as little-endian
@@ -111,90 +99,104 @@ size_t Interleave(const FLAC__int32* const buffer[], unsigned frames, unsigned c
 
 FLAC__StreamDecoderWriteStatus OnWrite(const FLAC__StreamDecoder*, const FLAC__Frame* frame,
                                        const FLAC__int32* const buffer[], void* client) {
-  FlacJob& job = *static_cast<FlacJob*>(client);
-  const FlacStreamInfo& info = job.info;
-  // A stream that does not say how long it is gives no work file at all.
-  if (info.totalSamples == 0) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+  FlacRun& run = *static_cast<FlacRun*>(client);
+  DecodeJob& job = *run.job;
+  const FlacStreamInfo& info = run.info;
+  if (run.headerOnly) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+  // A stream that does not say how long it is gives no samples at all.
+  if (info.totalSamples == 0) {
+    job.status = DecodeStatus::NoSound;
+    return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+  }
   // Nothing is written for a format the test cannot read; the open refuses it.
-  if (!IsSupported(info)) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
-  if (!job.headerWritten) {
+  if (!IsSupported(info)) {
+    job.status = DecodeStatus::Unsupported;
+    return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+  }
+  if (!job.Began()) {
     const uint64_t bytes = info.totalSamples * info.channels * ((info.bits + 7) / 8);
-    const uint32_t dataBytes = bytes > kMaxWorkDataSize ? kMaxWorkDataSize : uint32_t(bytes);
-    if (!job.out->WriteHeader(int(info.channels), int(info.sampleRate), int(info.bits), 1, dataBytes)) {
-      job.out->Close();
-      job.s->m_prompt.Message(WorkWriteFailedText(job.outPath), PromptIcon::Error);
-      g_flacAborted = 1;
-      return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
-    }
-    job.headerWritten = true;
+    PcmFormat f;
+    f.channels = int(info.channels);
+    f.sampleRate = int(info.sampleRate);
+    f.bits = int(info.bits);
+    f.dataBytes = bytes > kMaxWorkDataSize ? kMaxWorkDataSize : uint32_t(bytes);
+    if (!job.Begin(*run.sink, f)) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
   }
   // A damaged frame that claims another layout than the stream's is left out.
   if (frame->header.channels < info.channels) return FLAC__STREAM_DECODER_WRITE_STATUS_CONTINUE;
   const unsigned frames = frame->header.blocksize;
   const size_t need = size_t(frames) * info.channels * ((info.bits + 7) / 8);
-  if (job.frame.size() < need) job.frame.resize(need);
-  const size_t bytes = Interleave(buffer, frames, info.channels, info.bits, job.frame.data());
-
-  if (job.onCallerThread) {
-    Session& s = *job.s;
-    if (s.PumpMessages() == 0 || s.m_exitRequested) {
-      g_flacAborted = 1;
-      return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
-    }
-    if (s.m_pauseToggle) {
-      s.m_pauseToggle = 0;
-      s.m_testPaused = 1;
-      while (!s.m_pauseToggle && !s.m_exitRequested) s.PumpMessages();
-      s.m_pauseToggle = 0;
-      s.m_testPaused = 0;
-    }
-  }
-  if (!job.out->Write(job.frame.data(), bytes)) {
-    job.out->Close();
-    job.s->m_prompt.Message(WorkWriteFailedText(job.outPath), PromptIcon::Error);
-    g_flacAborted = 1;
-    return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
-  }
+  if (run.frame.size() < need) run.frame.resize(need);
+  const size_t bytes = Interleave(buffer, frames, info.channels, info.bits, run.frame.data());
+  const uint64_t at = frame->header.number_type == FLAC__FRAME_NUMBER_TYPE_SAMPLE_NUMBER
+                          ? frame->header.number.sample_number
+                          : uint64_t(frame->header.number.frame_number) * frames;
+  if (!job.Checkpoint(double(at) / double(info.totalSamples))) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
+  if (!job.Write(*run.sink, run.frame.data(), bytes)) return FLAC__STREAM_DECODER_WRITE_STATUS_ABORT;
   return FLAC__STREAM_DECODER_WRITE_STATUS_CONTINUE;
 }
 
 void OnMetadata(const FLAC__StreamDecoder*, const FLAC__StreamMetadata* block, void* client) {
-  FlacJob& job = *static_cast<FlacJob*>(client);
+  FlacRun& run = *static_cast<FlacRun*>(client);
   if (block->type == FLAC__METADATA_TYPE_STREAMINFO) {
     const FLAC__StreamMetadata_StreamInfo& si = block->data.stream_info;
-    job.info.totalSamples = si.total_samples;
-    job.info.sampleRate = si.sample_rate;
-    job.info.channels = si.channels;
-    job.info.bits = si.bits_per_sample;
+    run.info.totalSamples = si.total_samples;
+    run.info.sampleRate = si.sample_rate;
+    run.info.channels = si.channels;
+    run.info.bits = si.bits_per_sample;
   }
-  job.SetInfoReady();
 }
 
-void OnError(const FLAC__StreamDecoder*, FLAC__StreamDecoderErrorStatus status, void*) {
-  g_flacStatus = int(status);
+// libFLAC's error statuses keep their numbers here: 0 lost sync, 1 bad header, 2 frame
+// CRC mismatch, 3 unparseable stream (FLAC__StreamDecoderErrorStatus).
+void OnError(const FLAC__StreamDecoder*, FLAC__StreamDecoderErrorStatus status, void* client) {
+  FlacRun& run = *static_cast<FlacRun*>(client);
+  run.job->flacError = int(status);
+  if (run.job->flacStatus) run.job->flacStatus->store(int(status));
 }
 
-// Creates the decoder with MD5 checking on and opens `path`; null after the message.
-FLAC__StreamDecoder* StartDecoder(Session& s, const QString& path, FlacJob* job) {
+// Opens job.source with MD5 checking on; false after the message.
+bool StartDecoder(FlacDecoderHandle& h, FlacRun& run) {
   const QString failed = Tonvane::tr("Sorry, but an error of opening has occurred decoding stream.");
-  FLAC__StreamDecoder* d = FLAC__stream_decoder_new();
-  if (!d) {
-    s.m_prompt.Message(failed, PromptIcon::Error);
-    return nullptr;
+  if (!h.d) {
+    run.job->Report(failed);
+    return false;
   }
-  FLAC__stream_decoder_set_md5_checking(d, true);
-  const QByteArray native = QFile::encodeName(path);
-  if (FLAC__stream_decoder_init_file(d, native.constData(), OnWrite, OnMetadata, OnError, job) !=
+  FLAC__stream_decoder_set_md5_checking(h.d, true);
+  const QByteArray native = QFile::encodeName(run.job->source);
+  if (FLAC__stream_decoder_init_file(h.d, native.constData(), OnWrite, OnMetadata, OnError, &run) !=
       FLAC__STREAM_DECODER_INIT_STATUS_OK) {
-    job->SetInfoReady();
-    FLAC__stream_decoder_delete(d);
-    s.m_prompt.Message(failed, PromptIcon::Error);
-    return nullptr;
+    run.job->Report(failed);
+    return false;
   }
-  return d;
+  return true;
+}
+
+// The stream-info values, read on the caller's thread before any decoding.
+bool ReadStreamInfo(DecodeJob& job, FlacStreamInfo& info) {
+  FlacDecoderHandle h;
+  FlacRun run;
+  run.job = &job;
+  run.headerOnly = true;
+  if (!StartDecoder(h, run)) return false;
+  FLAC__stream_decoder_process_until_end_of_metadata(h.d);
+  info = run.info;
+  return true;
 }
 
 }  // namespace
+
+DecodeStatus DecodeFlac(DecodeJob& job, PcmSink& sink) {
+  FlacDecoderHandle h;
+  FlacRun run;
+  run.job = &job;
+  run.sink = &sink;
+  if (!StartDecoder(h, run)) return job.status = DecodeStatus::CannotOpen;
+  FLAC__stream_decoder_process_until_end_of_stream(h.d);
+  if (job.Began()) sink.End(SizeRule::AsAnnounced);
+  if (job.status == DecodeStatus::Ok && !job.Began()) job.status = DecodeStatus::NoSound;
+  return job.status;
+}
 
 QString FlacStatusText(int status) {
   switch (status) {
@@ -217,52 +219,34 @@ int ShowFlacError(Session& s, const QString& path) {
 int OpenFlac(Session& s) {
   s.m_decodeContext = -1;
   g_flacStatus = kFlacNoError;
-  g_flacAborted = 0;
   s.m_levelLeft = s.m_levelRight = -1.0f;
   if (g_workFile >= 0) {
     ::close(g_workFile);
     g_workFile = -1;
   }
 
-  auto job = std::make_shared<FlacJob>();
-  auto writer = std::make_shared<WorkFileWriter>();
-  job->s = &s;
-  job->out = writer.get();
-  job->outPath = g_workPath;
+  auto job = std::make_shared<DecodeJob>();
+  job->kind = kKindFlac;
+  job->source = s.m_fileName;
+  job->prompt = &s.m_prompt;
+  job->flacStatus = &g_flacStatus;
+  const QString workPath = g_workPath;
   const bool withWorker = !s.m_noWorker;
-  if (withWorker && !writer->Open(g_workPath, g_sourcePath)) {
-    s.m_prompt.Message(Tonvane::tr("Sorry, but the file ") + g_workPath + Tonvane::tr(" cannot be created."), PromptIcon::Error);
+  auto writer = std::make_shared<WorkFileWriter>();
+  if (withWorker && !writer->Open(workPath, g_sourcePath)) {
+    s.m_prompt.Message(Tonvane::tr("Sorry, but the file ") + workPath + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     return 0;
   }
   auto dropWorkFile = [&] {
     writer->Close();
-    if (withWorker) DeleteWorkFile(job->outPath);
+    if (withWorker) DeleteWorkFile(workPath);
   };
 
-  job->decoder = StartDecoder(s, s.m_fileName, job.get());
-  if (!job->decoder) {
+  // The stream values first, on this thread: nothing waits for the worker.
+  FlacStreamInfo info;
+  if (!ReadStreamInfo(*job, info)) {
     dropWorkFile();
     return 0;
-  }
-
-  FlacStreamInfo info;
-  if (withWorker) {
-    StartWorker([job, writer]() {
-      FLAC__stream_decoder_process_until_end_of_stream(job->decoder);
-      FLAC__stream_decoder_delete(job->decoder);
-      job->decoder = nullptr;
-      writer->Close();
-      job->SetInfoReady();  // a stream without a stream-info block frees the open here
-      job->info = FlacStreamInfo{};
-      return g_flacAborted.load() ? 1 : 0;
-    });
-    info = job->WaitInfo();
-  } else {
-    FLAC__stream_decoder_process_until_end_of_metadata(job->decoder);
-    FLAC__stream_decoder_delete(job->decoder);
-    job->decoder = nullptr;
-    job->SetInfoReady();
-    info = job->WaitInfo();
   }
 
   s.m_formatTag = 1;
@@ -276,18 +260,19 @@ int OpenFlac(Session& s) {
   s.m_levelLeft = s.m_levelRight = -1.0f;
 
   if (!IsSupported(info)) {
-    // The worker has written nothing for such a stream; let it end and take its file away.
-    if (withWorker) {
-      while (g_workerBusy.load()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-      JoinWorker();
-      DeleteWorkFile(job->outPath);
-    }
+    // Nothing would be written for such a stream: no worker, no work file.
+    dropWorkFile();
     RefuseUnsupportedFormat(s);
     return 0;
   }
 
   SetPcmPropertyLines(s, info.bits, info.channels, info.sampleRate);
   s.m_propertyLines[3] = Tonvane::tr("  Audio Format      FLAC");
+  if (withWorker &&
+      !StartWorkerOrReport(s, [job, writer] { return DecodeFlac(*job, *writer) == DecodeStatus::Ok ? 0 : 1; })) {
+    dropWorkFile();
+    return 0;
+  }
   ShowFlacError(s, s.m_fileName);
   return 1;
 }

@@ -11,11 +11,10 @@ struct Session;
 // file while it is not kFlacNoError.
 constexpr int kFlacNoError = 4;
 extern std::atomic<int> g_flacStatus;
-// 1 if the write callback stopped the decoding (cancel, exit, short write).
-extern std::atomic<int> g_flacAborted;
 
-// Reads the header of the source g_sourcePath (named by m_fileName), fills SourceFormat and
-// property lines 1 to 4, and starts the worker that makes the work file g_workPath.
+// Reads the stream-info block of the source m_fileName (on the caller's thread), fills
+// SourceFormat and property lines 1 to 4, and starts the worker that decodes the stream
+// into the work file g_workPath.
 // Returns 1 on success; otherwise it has shown its own message.
 int OpenFlac(Session& s);
 

@@ -6,6 +6,7 @@
 #include "formats/AacDecode.h"
 #include "formats/AacFile.h"
 #include "formats/OpenPipeline.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 int OpenMp4(Session& s) {
@@ -64,9 +65,30 @@ int OpenMp4(Session& s) {
   }
   if (s.m_noWorker) return 1;
 
-  Session* session = &s;
-  if (type == AACFile::kTypeAlac) StartWorker([session] { return DecodeAlac(*session); });
-  else if (isMp4) StartWorker([session] { return DecodeMp4Aac(*session); });
-  else StartWorker([session] { return DecodeRawAac(*session); });
-  return 1;
+  auto job = std::make_shared<DecodeJob>();
+  job->kind = s.m_sourceKind;
+  job->source = g_sourcePath;
+  job->prompt = &s.m_prompt;
+  auto sink = std::make_shared<WorkFileWriter>(work, g_sourcePath);
+  const bool raw = !isMp4;
+  // What only the decoding tells comes into the session on the window's thread.
+  auto onMain = [job, raw](Session& s) {
+    if (!job->Began()) return;
+    s.m_bits = job->format.bits;
+    s.m_formatTag = job->format.formatTag;
+    if (s.m_channels == 0) {
+      // ADIF: the count comes with the first frame.
+      s.m_channels = job->format.channels;
+      s.m_propertyLines[1] = Tonvane::tr("  Channels            ") + QString::number(job->format.channels);
+    }
+    if (raw && s.m_durationMs == 0 && job->format.sampleRate > 0) {
+      const double seconds =
+          double(job->bytes) / (double(job->format.sampleRate) * (job->format.bits / 8) * job->format.channels);
+      s.m_durationMs = uint32_t(seconds * 1000.0);
+    }
+  };
+  return StartWorkerOrReport(s, [job, sink] { return DecodeMp4OrAac(*job, *sink) == DecodeStatus::Ok ? 0 : 1; },
+                             onMain)
+             ? 1
+             : 0;
 }

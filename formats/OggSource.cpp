@@ -13,6 +13,7 @@
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 namespace {
@@ -27,49 +28,47 @@ int OpenVorbis(const QString& path, OggVorbis_File* vf) {
 
 }  // namespace
 
-static int OggWorkerBody(Session& s) {
-  const QString source = g_sourcePath;
-  const QString work = g_workPath;
+// The handle of an open stream, cleared on every way out.
+struct VorbisFile {
   OggVorbis_File vf;
-  if (OpenVorbis(source, &vf) != 0) {
-    s.m_prompt.Message(NotOpenedText(source), PromptIcon::Error);
-    return 1;
+  bool open = false;
+  ~VorbisFile() {
+    if (open) ov_clear(&vf);
   }
+};
+
+DecodeStatus DecodeOgg(DecodeJob& job, PcmSink& sink) {
+  VorbisFile file;
+  if (OpenVorbis(job.source, &file.vf) != 0) {
+    job.Report(NotOpenedText(job.source));
+    return job.status = DecodeStatus::CannotOpen;
+  }
+  file.open = true;
+  OggVorbis_File& vf = file.vf;
   const vorbis_info* vi = ov_info(&vf, -1);
-  const int channels = vi ? vi->channels : 0;
-  const int rate = vi ? int(vi->rate) : 0;
   const ogg_int64_t samples = ov_pcm_total(&vf, -1);
   if (samples == OV_EINVAL || !vi) {
-    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + source +
-                           Tonvane::tr(" does not contain a sound data. Therefore the test is impossible."),
-                       PromptIcon::Error);
-    ov_clear(&vf);
-    return 1;
+    job.Report(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + job.source +
+               Tonvane::tr(" does not contain a sound data. Therefore the test is impossible."));
+    return job.status = DecodeStatus::NoSound;
   }
-  const uint64_t bytes = uint64_t(samples < 0 ? 0 : samples) * uint64_t(channels) * 2u;
-  const uint32_t dataBytes = bytes > kMaxWorkDataSize ? kMaxWorkDataSize : uint32_t(bytes);
-
-  WorkFileWriter out;
-  if (!out.Open(work, source)) {
-    s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + work + Tonvane::tr(" cannot be created."), PromptIcon::Error);
-    ov_clear(&vf);
-    return 1;
-  }
-  if (!out.WriteHeader(channels, rate, 16, 1, dataBytes)) {
-    s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
-    ov_clear(&vf);
-    return 1;
-  }
+  PcmFormat f;
+  f.channels = vi->channels;
+  f.sampleRate = int(vi->rate);
+  f.bits = 16;
+  const uint64_t bytes = uint64_t(samples < 0 ? 0 : samples) * uint64_t(f.channels) * 2u;
+  f.dataBytes = bytes > kMaxWorkDataSize ? kMaxWorkDataSize : uint32_t(bytes);
+  if (!job.Begin(sink, f)) return job.status;
 
   // Chained links are read on as one stream; a hole or a bad link ends the decoding and
-  // the work file keeps what was written. Reads go 4096 bytes at a time into a larger
-  // buffer, which is written when full.
+  // what was written stands. Reads go 4096 bytes at a time into a larger buffer, which
+  // goes to the sink when full.
   constexpr size_t kRead = 4096;
   constexpr size_t kBuffer = 16 * kRead;
   std::unique_ptr<char[]> buffer(new char[kBuffer]);
   size_t fill = 0;
   auto flush = [&]() {
-    const bool ok = fill == 0 || out.Write(buffer.get(), fill);
+    const bool ok = job.Write(sink, buffer.get(), fill);
     fill = 0;
     return ok;
   };
@@ -77,43 +76,28 @@ static int OggWorkerBody(Session& s) {
   for (;;) {
     const long n = ov_read(&vf, buffer.get() + fill, int(kRead), 0, 2, 1, &link);
     if (n == 0) break;
-    if (n == OV_HOLE || n == OV_EBADLINK || n == OV_EINVAL || n < 0) {
-      const bool written = flush();
-      out.Close();
-      s.m_prompt.Message(written ? Tonvane::tr("Sorry, but an error of opening has occurred decoding stream.")
-                                 : WorkWriteFailedText(work),
-                         PromptIcon::Error);
-      ov_clear(&vf);
-      return 1;
+    if (n < 0) {
+      if (flush()) {
+        job.Report(Tonvane::tr("Sorry, but an error of opening has occurred decoding stream."));
+        job.status = DecodeStatus::Damaged;
+      }
+      sink.End(SizeRule::AsAnnounced);
+      return job.status;
     }
     fill += size_t(n);
-    if (fill + kRead > kBuffer && !flush()) {
-      out.Close();
-      s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
-      ov_clear(&vf);
-      return 1;
+    if (fill + kRead > kBuffer) {
+      if (!flush()) break;
+      if (!job.Checkpoint(samples > 0 ? double(ov_pcm_tell(&vf)) / double(samples) : 0.0)) break;
     }
   }
-  if (!flush()) {
-    out.Close();
-    s.m_prompt.Message(WorkWriteFailedText(work), PromptIcon::Error);
-    ov_clear(&vf);
-    return 1;
-  }
-
+  if (job.status == DecodeStatus::Ok) flush();
   // The stream's true length may differ from what its last granule position promised.
-  const double total = double(out.Total());
-  const uint32_t written = total > double(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(total);
-  if (!out.PatchSizesIfDifferent(written)) {
-    s.m_prompt.Message(out.LastStep() == 1 ? WorkSeekFailedText(work) : WorkWriteFailedText(work),
-                       PromptIcon::Error);
-    out.Close();
-    ov_clear(&vf);
-    return 1;
+  if (!sink.End(job.status == DecodeStatus::Ok ? SizeRule::IfDifferent : SizeRule::AsAnnounced) &&
+      job.status == DecodeStatus::Ok) {
+    job.Report(sink.FailureText());
+    job.status = DecodeStatus::SinkFailed;
   }
-  out.Close();
-  ov_clear(&vf);
-  return 0;
+  return job.status;
 }
 
 int OpenOgg(Session& s) {
@@ -151,7 +135,10 @@ int OpenOgg(Session& s) {
   ov_clear(&vf);
 
   if (s.m_noWorker) return 1;
-  Session* session = &s;
-  StartWorker([session]() { return OggWorkerBody(*session); });
-  return 1;
+  auto job = std::make_shared<DecodeJob>();
+  job->kind = kKindOgg;
+  job->source = g_sourcePath;
+  job->prompt = &s.m_prompt;
+  auto sink = std::make_shared<WorkFileWriter>(g_workPath, g_sourcePath);
+  return StartWorkerOrReport(s, [job, sink] { return DecodeOgg(*job, *sink) == DecodeStatus::Ok ? 0 : 1; }) ? 1 : 0;
 }

@@ -16,6 +16,7 @@ extern "C" {
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "app/Text.h"
+#include "formats/Decode.h"
 #include "formats/WorkFile.h"
 
 namespace {
@@ -231,91 +232,110 @@ size_t ConvertFrame(const AVFrame* f, int channels, int bits, uint16_t workTag, 
   return size;
 }
 
-// One conversion: the decoder, the mapped source and the work file, owned by the worker.
-struct ConversionJob {
-  Session* s = nullptr;
-  CodecContext decoder;
-  MappedFile source;
-  WorkFileWriter out;
-  QString workPath;
-  uint64_t dataBegin = 0, dataEnd = 0;
+}  // namespace
+
+DecodeStatus DecodeWavConversion(DecodeJob& job, PcmSink& sink) {
+  const WaveFormat w = ParseFormat(job.fmtBlock);
+  const AVCodecID id = CodecOf(w);
+  if (id == AV_CODEC_ID_NONE) {
+    job.Report(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + job.source + Tonvane::tr(" cannot be opened"),
+               PromptIcon::Information);
+    return job.status = DecodeStatus::CannotOpen;
+  }
+  // A format block the decoder can make nothing of.
+  if (w.channels == 0 || w.sampleRate == 0) return job.status = DecodeStatus::CannotOpen;
+  const ConversionPlan plan = PlanOf(w, id);
+  CodecContext decoder = OpenDecoder(w, id);
+  if (!decoder) {
+    job.Report(Tonvane::tr("A stream of data conversion did not succeed to open"), PromptIcon::Warning);
+    return job.status = DecodeStatus::CannotOpen;
+  }
+  // Whole source blocks for codecs that work in blocks (a 16-bit block alignment always
+  // fits in one conversion block); such codecs get them one packet each, as a demuxer
+  // would hand them over.
   uint32_t blockBytes = kConversionBlock;
-  size_t packetBytes = 0;  // 0: the whole block in one packet
-  ConversionPlan plan;
-};
+  size_t packetBytes = 0;
+  if (w.blockAlign > 1) blockBytes = kConversionBlock / w.blockAlign * w.blockAlign;
+  if (!IsPcmCodec(id) && !IsFloatCodec(id) && w.blockAlign >= 32) packetBytes = w.blockAlign;
+  if (!packetBytes) packetBytes = blockBytes;
 
-int ConvertBody(ConversionJob& job) {
-  Session& s = *job.s;
-  AVPacket* pkt = av_packet_alloc();
-  AVFrame* frame = av_frame_alloc();
-  std::vector<uint8_t> in(size_t(job.blockBytes) + AV_INPUT_BUFFER_PADDING_SIZE);
+  MappedFile source;
+  if (!source.Open(job.source) || !source.Map(0, source.Size())) {
+    job.Report(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + job.source +
+               Tonvane::tr(" create a file mapping is impossible") + ". " + Tonvane::tr("Therefore the test will be stopped."));
+    return job.status = DecodeStatus::CannotOpen;
+  }
+  const uint64_t size = source.Size();
+  const uint64_t dataBegin = std::min<uint64_t>(job.dataOffset, size);
+  const uint64_t dataEnd = std::min<uint64_t>(job.dataOffset + job.dataSize, size);
+
+  PcmFormat f;
+  f.channels = plan.channels;
+  f.sampleRate = plan.sampleRate;
+  f.bits = plan.bits;
+  f.formatTag = plan.workTag;
+  if (!job.Begin(sink, f)) return job.status;
+
+  struct Frames {
+    AVPacket* pkt = av_packet_alloc();
+    AVFrame* frame = av_frame_alloc();
+    ~Frames() {
+      av_frame_free(&frame);
+      av_packet_free(&pkt);
+    }
+  } av;
+  std::vector<uint8_t> in(size_t(blockBytes) + AV_INPUT_BUFFER_PADDING_SIZE);
   std::vector<uint8_t> pcm;
-  const int channels = job.plan.channels;
-  bool failed = !pkt || !frame;
+  bool failed = !av.pkt || !av.frame;
 
-  // Takes every frame the decoder has ready; false after a short write.
+  // Takes every frame the decoder has ready; false once the sink refuses.
   auto drain = [&]() {
     for (;;) {
-      const int r = avcodec_receive_frame(job.decoder.get(), frame);
+      const int r = avcodec_receive_frame(decoder.get(), av.frame);
       if (r < 0) return true;  // wants more input, has ended, or the data was bad
-      if (frame->ch_layout.nb_channels == channels) {
-        const size_t bytes = ConvertFrame(frame, channels, job.plan.bits, job.plan.workTag, pcm);
-        if (!job.out.Write(pcm.data(), bytes)) return false;
+      if (av.frame->ch_layout.nb_channels == plan.channels) {
+        const size_t bytes = ConvertFrame(av.frame, plan.channels, plan.bits, plan.workTag, pcm);
+        if (!job.Write(sink, pcm.data(), bytes)) return false;
       }
-      av_frame_unref(frame);
+      av_frame_unref(av.frame);
     }
   };
 
-  // The source goes in blocks of kConversionBlock bytes; a codec that works in blocks of
-  // its own gets them one packet each, as a demuxer would hand them over.
-  const uint8_t* view = job.source.View();
-  const size_t packetBytes = job.packetBytes ? job.packetBytes : job.blockBytes;
-  for (uint64_t pos = job.dataBegin; !failed && pos < job.dataEnd;) {
-    const size_t chunk = size_t(std::min<uint64_t>(job.blockBytes, job.dataEnd - pos));
+  const uint8_t* view = source.View();
+  for (uint64_t pos = dataBegin; !failed && pos < dataEnd;) {
+    const size_t chunk = size_t(std::min<uint64_t>(blockBytes, dataEnd - pos));
     std::memcpy(in.data(), view + pos, chunk);
     std::memset(in.data() + chunk, 0, AV_INPUT_BUFFER_PADDING_SIZE);
     pos += chunk;
-    g_sampleBytesRead += chunk;
     for (size_t at = 0; !failed && at < chunk; at += packetBytes) {
-      pkt->data = in.data() + at;
-      pkt->size = int(std::min(packetBytes, chunk - at));
+      av.pkt->data = in.data() + at;
+      av.pkt->size = int(std::min(packetBytes, chunk - at));
       // A packet the decoder rejects is dropped; the next one is offered as usual.
-      int r = avcodec_send_packet(job.decoder.get(), pkt);
+      int r = avcodec_send_packet(decoder.get(), av.pkt);
       while (r == AVERROR(EAGAIN)) {
-        if (!drain()) { failed = true; break; }
-        r = avcodec_send_packet(job.decoder.get(), pkt);
+        if (!drain()) {
+          failed = true;
+          break;
+        }
+        r = avcodec_send_packet(decoder.get(), av.pkt);
       }
       if (!failed && !drain()) failed = true;
     }
+    if (!failed && !job.Checkpoint(double(pos - dataBegin) / double(dataEnd - dataBegin))) failed = true;
   }
   if (!failed) {
-    avcodec_send_packet(job.decoder.get(), nullptr);
-    if (!drain()) failed = true;
+    avcodec_send_packet(decoder.get(), nullptr);
+    drain();
   }
-  av_frame_free(&frame);
-  av_packet_free(&pkt);
-  job.decoder.reset();
-  job.source.Close();
-
-  if (failed) {
-    job.out.Close();
-    s.m_prompt.Message(WorkWriteFailedText(job.workPath), PromptIcon::Error);
-    return 1;
+  if (!sink.End(job.status == DecodeStatus::Ok ? SizeRule::FromRunningTotal : SizeRule::AsAnnounced) &&
+      job.status == DecodeStatus::Ok) {
+    job.Report(sink.FailureText());
+    job.status = DecodeStatus::SinkFailed;
   }
-  const double total = double(job.out.Total());
-  const double perSecond = double(channels * ((job.plan.bits + 7) / 8)) * double(job.plan.sampleRate);
-  const double ms = perSecond > 0 ? total / perSecond * 1000.0 : 0.0;
-  s.m_durationMs = ms < 4294967295.0 ? uint32_t(std::llround(ms)) : 0xFFFFFFFFu;
-  if (!job.out.PatchSizes(job.out.Total())) {
-    s.m_prompt.Message(job.out.LastStep() == 1 ? WorkSeekFailedText(job.workPath) : WorkWriteFailedText(job.workPath),
-                       PromptIcon::Error);
-    job.out.Close();
-    return 1;
-  }
-  job.out.Close();
-  return 0;
+  return job.status;
 }
 
+namespace {
 }  // namespace
 
 ConversionPlan PlanConversion(const QByteArray& fmtBlock) {
@@ -335,19 +355,11 @@ int OpenWavConversion(Session& s) {
   if (w.channels == 0 || w.sampleRate == 0) return 0;
   const ConversionPlan plan = PlanOf(w, id);
 
-  auto job = std::make_shared<ConversionJob>();
-  job->s = &s;
-  job->plan = plan;
-  job->workPath = g_workPath;
-  job->decoder = OpenDecoder(w, id);
-  if (!job->decoder) {
+  // The decoder is tried here so that a format it refuses stops the open.
+  if (!OpenDecoder(w, id)) {
     s.m_prompt.Message(Tonvane::tr("A stream of data conversion did not succeed to open"), PromptIcon::Warning);
     return 0;
   }
-  // Whole source blocks for codecs that work in blocks.
-  // (a 16-bit block alignment always fits in one conversion block)
-  if (w.blockAlign > 1) job->blockBytes = kConversionBlock / w.blockAlign * w.blockAlign;
-  if (!IsPcmCodec(id) && !IsFloatCodec(id) && w.blockAlign >= 32) job->packetBytes = w.blockAlign;
 
   s.m_bits = plan.bits;
   // The scanner reads 32-bit samples as float only under tag 3.
@@ -360,10 +372,11 @@ int OpenWavConversion(Session& s) {
   if (s.m_noWorker) {
     // Without a conversion the length comes from the codec's frames per block, where the
     // codec tells it; the conversion sets the true value when it runs.
+    CodecContext probe = OpenDecoder(w, id);
     const uint64_t bytes = s.m_dataSize;
     const int block = w.blockAlign > 0 ? w.blockAlign : 1;
-    const int perBlock = av_get_audio_frame_duration(job->decoder.get(), block);
-    const int perRest = bytes % uint64_t(block) ? av_get_audio_frame_duration(job->decoder.get(), int(bytes % uint64_t(block))) : 0;
+    const int perBlock = av_get_audio_frame_duration(probe.get(), block);
+    const int perRest = bytes % uint64_t(block) ? av_get_audio_frame_duration(probe.get(), int(bytes % uint64_t(block))) : 0;
     const double frames = double(bytes / uint64_t(block)) * perBlock + perRest;
     const double ms = plan.sampleRate > 0 ? frames / plan.sampleRate * 1000.0 : 0.0;
     s.m_durationMs = perBlock > 0 && ms < 4294967295.0 ? uint32_t(std::llround(ms)) : 0;
@@ -372,33 +385,47 @@ int OpenWavConversion(Session& s) {
     return 1;
   }
 
-  if (!job->out.Open(g_workPath, g_sourcePath)) {
+  auto sink = std::make_shared<WorkFileWriter>();
+  if (!sink->Open(g_workPath, g_sourcePath)) {
     s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + g_workPath + Tonvane::tr(" cannot be created."), PromptIcon::Error);
     return 0;
   }
-  if (!job->out.WriteHeader(plan.channels, plan.sampleRate, plan.bits, plan.workTag, 0)) {
+  PcmFormat format;
+  format.channels = plan.channels;
+  format.sampleRate = plan.sampleRate;
+  format.bits = plan.bits;
+  format.formatTag = plan.workTag;
+  if (!sink->Begin(format)) {
+    sink->Close();
     DeleteWorkFile(g_workPath);
     s.m_prompt.Message(WorkWriteFailedText(g_workPath), PromptIcon::Error);
     return 0;
   }
-  if (!job->source.Open(g_sourcePath) || !job->source.Map(0, job->source.Size())) {
-    const int err = job->source.LastErrno();
-    job->out.Close();
-    DeleteWorkFile(g_workPath);
-    ReportFileError(s, Tonvane::tr(" create a file mapping is impossible"), s.m_fileName, Tonvane::tr("Therefore the test will be stopped."),
-                    ErrorCodeFromErrno(err, s.m_fileName), true);
-    return 0;
-  }
-  const uint64_t size = job->source.Size();
-  job->dataBegin = std::min<uint64_t>(s.m_dataOffset, size);
-  job->dataEnd = std::min<uint64_t>(uint64_t(s.m_dataOffset) + s.m_dataSize, size);
+  auto job = std::make_shared<DecodeJob>();
+  job->kind = kKindWav;
+  job->source = g_sourcePath;
+  job->prompt = &s.m_prompt;
+  job->fmtBlock = s.m_fmtBlock;
+  job->dataOffset = s.m_dataOffset;
+  job->dataSize = s.m_dataSize;
   // The source's data chunk says nothing of the work file's: the test looks for that one
   // in the work file itself.
   s.m_dataOffset = 0;
   s.m_dataSize = 0;
-
   s.m_sampleRate = plan.sampleRate;
   s.m_channels = plan.channels;
-  StartWorker([job]() { return ConvertBody(*job); });
+  // The length is what was converted, known when the worker ends.
+  auto onMain = [job, plan](Session& s) {
+    const double perSecond = double(plan.channels * ((plan.bits + 7) / 8)) * double(plan.sampleRate);
+    const double ms = perSecond > 0 ? double(job->runningTotal) / perSecond * 1000.0 : 0.0;
+    s.m_durationMs = ms < 4294967295.0 ? uint32_t(std::llround(ms)) : 0xFFFFFFFFu;
+  };
+  const QString workPath = g_workPath;
+  if (!StartWorkerOrReport(s, [job, sink] { return DecodeWavConversion(*job, *sink) == DecodeStatus::Ok ? 0 : 1; },
+                           onMain)) {
+    sink->Close();
+    DeleteWorkFile(workPath);
+    return 0;
+  }
   return 1;
 }

@@ -67,6 +67,7 @@ void ClearReadOnlyBit(const QByteArray& native) {
 
 std::thread g_workerThread;
 std::atomic<int> g_workerExit{-1};
+std::function<void(Session&)> g_workerOnMain;  // the window's thread only
 
 }  // namespace
 
@@ -139,6 +140,9 @@ bool WorkFileWriter::Create(const QString& path, int channels, int sampleRate, i
 bool WorkFileWriter::Open(const QString& path, const QString& sourcePath) {
   Close();
   m_path = path;
+  m_source = sourcePath;
+  m_created = false;
+  m_headerWritten = false;
   m_written = 0;
   m_total = 0;
   m_errno = 0;
@@ -154,7 +158,40 @@ bool WorkFileWriter::Open(const QString& path, const QString& sourcePath) {
     m_errno = errno;
     return false;
   }
+  m_created = true;
   return true;
+}
+
+bool WorkFileWriter::Begin(const PcmFormat& f) {
+  // An open may write the header before its worker starts; the decoder's Begin then finds
+  // it there.
+  if (m_fd >= 0 && m_headerWritten) return true;
+  if (m_fd < 0 && !Open(m_path, m_source)) return false;
+  m_headerWritten = WriteHeader(f.channels, f.sampleRate, f.bits, f.formatTag, f.dataBytes);
+  return m_headerWritten;
+}
+
+bool WorkFileWriter::End(SizeRule rule) {
+  if (m_fd < 0) return false;
+  bool ok = true;
+  switch (rule) {
+    case SizeRule::AsAnnounced: break;
+    case SizeRule::IfDifferent: {
+      const double total = double(m_total);
+      ok = PatchSizesIfDifferent(total > double(kMaxWorkDataSize) ? kMaxWorkDataSize : uint32_t(total));
+      break;
+    }
+    case SizeRule::FromRunningTotal: ok = PatchSizes(m_total); break;
+    case SizeRule::FromExactTotal: ok = PatchSizes(float(m_written)); break;
+  }
+  Close();
+  return ok;
+}
+
+QString WorkFileWriter::FailureText() const {
+  if (!m_created)
+    return Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + m_path + Tonvane::tr(" cannot be created.");
+  return m_lastStep == 1 ? WorkSeekFailedText(m_path) : WorkWriteFailedText(m_path);
 }
 
 bool WorkFileWriter::WriteHeader(int channels, int sampleRate, int bits, uint16_t formatTag,
@@ -164,6 +201,7 @@ bool WorkFileWriter::WriteHeader(int channels, int sampleRate, int bits, uint16_
   errno = 0;
   if (::write(m_fd, h.constData(), size_t(h.size())) != h.size()) {
     m_errno = errno ? errno : ENOSPC;
+    m_lastStep = 2;
     Close();
     return false;
   }
@@ -179,6 +217,7 @@ bool WorkFileWriter::Write(const void* data, size_t bytes) {
     if (n < 0 && errno == EINTR) continue;
     if (n <= 0) {
       m_errno = n < 0 ? errno : ENOSPC;
+      m_lastStep = 2;
       return false;
     }
     p += n;
@@ -186,7 +225,6 @@ bool WorkFileWriter::Write(const void* data, size_t bytes) {
     m_written += uint64_t(n);
   }
   m_total += float(bytes);
-  g_sampleBytesRead += bytes;
   return true;
 }
 
@@ -247,9 +285,10 @@ QString WorkWriteFailedText(const QString& workPath) {
 
 void JoinWorker() {
   if (g_workerThread.joinable()) g_workerThread.join();
+  g_workerOnMain = nullptr;
 }
 
-bool StartWorker(std::function<int()> body) {
+bool StartWorker(std::function<int()> body, std::function<void(Session&)> onMain) {
   JoinWorker();
   g_workerExit = -1;
   g_workerBusy.store(1);
@@ -270,6 +309,23 @@ bool StartWorker(std::function<int()> body) {
     g_workerBusy.store(0);
     return false;
   }
+  g_workerOnMain = std::move(onMain);
+  return true;
+}
+
+bool StartWorkerOrReport(Session& s, std::function<int()> body, std::function<void(Session&)> onMain) {
+  if (StartWorker(std::move(body), std::move(onMain))) return true;
+  ReportFileError(s, Tonvane::tr("create a copy of the flow descriptor copying the file is"), QString(), QString(),
+                  ErrorCodeFromErrno(EAGAIN), false);
+  return false;
+}
+
+bool CollectWorker(Session& s) {
+  if (g_workerBusy.load() || !g_workerThread.joinable()) return false;
+  g_workerThread.join();
+  auto onMain = std::move(g_workerOnMain);
+  g_workerOnMain = nullptr;
+  if (onMain) onMain(s);
   return true;
 }
 
@@ -278,7 +334,7 @@ void WaitForWorker(Session& s) {
     s.PumpMessages();
     QThread::msleep(10);
   }
-  JoinWorker();
+  CollectWorker(s);
 }
 
 int WorkerExitCode() { return g_workerExit.load(); }

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <functional>
 
+#include "formats/PcmSink.h"
+
 struct Session;
 
 constexpr int kWorkHeaderSize = 44;
@@ -27,20 +29,14 @@ QByteArray MakeWorkHeader(int channels, int sampleRate, int bits, uint16_t forma
 // the file is gone afterwards.
 bool DeleteWorkFile(const QString& path);
 
-// Where decoders put interleaved little-endian PCM.
-class PcmSink {
- public:
-  virtual ~PcmSink() = default;
-  // False on a short or failed write (a full disk); the decoder then stops.
-  virtual bool Write(const void* data, size_t bytes) = 0;
-};
-
-// A PCM work file: creates the file (never the source: the path must differ from
-// g_sourcePath), writes the header, takes the samples, and patches the two size fields
-// at the end from the single-precision running total, as decoders of unknown length do.
+// A PCM work file: creates the file (never the source), writes the header, takes the
+// samples, and settles the two size fields at the end by the decoder's rule. As a sink it
+// opens its path at Begin unless Open came first.
 class WorkFileWriter : public PcmSink {
  public:
   WorkFileWriter() = default;
+  // A sink for `path`; `sourcePath` is the file it must never be.
+  WorkFileWriter(const QString& path, const QString& sourcePath) : m_path(path), m_source(sourcePath) {}
   ~WorkFileWriter() override;
   WorkFileWriter(const WorkFileWriter&) = delete;
   WorkFileWriter& operator=(const WorkFileWriter&) = delete;
@@ -55,6 +51,11 @@ class WorkFileWriter : public PcmSink {
   // Writes the 44-byte header at the current position; header bytes are not sample bytes.
   bool WriteHeader(int channels, int sampleRate, int bits, uint16_t formatTag, uint32_t dataBytes);
   bool Write(const void* data, size_t bytes) override;
+  bool Begin(const PcmFormat& format) override;
+  bool End(SizeRule rule) override;
+  // The message for the last failure: the file could not be created, a write or a seek
+  // failed.
+  QString FailureText() const override;
   // Sizes from `total` as a float: riffSize = total + 36, clamped to 0xFFFFFF00.
   // Returns false on a failed seek or write (LastStep tells which: 1 seek, 2 write).
   bool PatchSizes(float total);
@@ -73,6 +74,9 @@ class WorkFileWriter : public PcmSink {
   bool WriteAt(uint64_t offset, uint32_t value);
   int m_fd = -1;
   QString m_path;
+  QString m_source;
+  bool m_created = false;  // the file exists (a failure after this is a write failure)
+  bool m_headerWritten = false;  // by Begin
   uint64_t m_written = 0;
   float m_total = 0;  // the running total as the decoders keep it: single precision
   int m_errno = 0;
@@ -83,13 +87,21 @@ class WorkFileWriter : public PcmSink {
 QString WorkSeekFailedText(const QString& workPath);
 QString WorkWriteFailedText(const QString& workPath);
 
-// Starts the one worker: any earlier worker is joined, g_workerBusy is set to 1 before the
-// thread starts, and cleared on every way out of `body`. `body` returns the thread's exit
-// code (0 on success). False when no thread could be started (g_workerBusy is 0 again).
-bool StartWorker(std::function<int()> body);
-// Waits for the current worker while pumping the session (at 10 ms steps).
+// The one worker of the window. StartWorker joins any earlier worker, sets g_workerBusy to
+// 1 before the thread starts and clears it on every way out of `body`, which returns the
+// thread's exit code (0 on success). `onMain` (may be empty) brings the job's outcome into
+// the session; it runs on the window's thread when the ended worker is collected. False
+// when no thread could be started (g_workerBusy is 0 again).
+bool StartWorker(std::function<int()> body, std::function<void(Session&)> onMain = {});
+// The one failure rule of a start: a thread that cannot start is reported (" create a
+// copy of the flow descriptor copying the file is") and the reader gives up; nothing waits.
+bool StartWorkerOrReport(Session& s, std::function<int()> body, std::function<void(Session&)> onMain = {});
+// Joins an ended worker and runs its `onMain` on this thread; false while it runs or when
+// there is none. The window's timer and the test call it.
+bool CollectWorker(Session& s);
+// Waits for the current worker while pumping the session (at 10 ms steps), then collects it.
 void WaitForWorker(Session& s);
-// Joins a finished worker (program end, tests).
+// Joins the worker without bringing its outcome in (program end).
 void JoinWorker();
 // Exit code of the last finished worker; -1 while it runs or if none ran.
 int WorkerExitCode();

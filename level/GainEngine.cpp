@@ -11,12 +11,12 @@
 #include "app/Globals.h"
 #include "app/Session.h"
 #include "formats/WorkFile.h"
+#include "app/Job.h"
+#include "formats/Decode.h"
+#include "level/LevelAnalyser.h"
 #include "level/ReplayGain.h"
+#include "level/SampleScale.h"
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-}
 
 namespace {
 
@@ -133,54 +133,6 @@ int SampleRateOf(MappedFile& f) {
   return rate;
 }
 
-enum class Sample { U8, S16, S24, S32, F32 };
-
-// A float sample (full scale +-1) on the 16-bit scale. NaN would poison the filter, and
-// nothing real lies beyond 120 dB over full scale.
-double FloatToSixteenBitScale(double v) { return (v == v ? std::clamp(v, -1e6, 1e6) : 0.0) * 32768.0; }
-
-// `frames` frames of `channels` samples to the first `used` channels on the 16-bit scale.
-void ToSixteenBitScale(const uint8_t* p, size_t frames, int channels, int used, Sample kind, double* out) {
-  switch (kind) {
-    case Sample::U8:
-      for (size_t i = 0; i < frames; ++i, p += channels)
-        for (int c = 0; c < used; ++c) *out++ = (int(p[c]) - 128) * 256.0;
-      break;
-    case Sample::S16:
-      for (size_t i = 0; i < frames; ++i, p += 2 * channels)
-        for (int c = 0; c < used; ++c) {
-          int16_t v;
-          std::memcpy(&v, p + 2 * c, 2);
-          *out++ = v;
-        }
-      break;
-    case Sample::S24:
-      for (size_t i = 0; i < frames; ++i, p += 3 * channels)
-        for (int c = 0; c < used; ++c) {
-          const uint8_t* q = p + 3 * c;
-          const int32_t v = int32_t(uint32_t(q[0]) << 8 | uint32_t(q[1]) << 16 | uint32_t(q[2]) << 24) >> 8;
-          *out++ = v * (1.0 / 256.0);
-        }
-      break;
-    case Sample::S32:
-      for (size_t i = 0; i < frames; ++i, p += 4 * channels)
-        for (int c = 0; c < used; ++c) {
-          int32_t v;
-          std::memcpy(&v, p + 4 * c, 4);
-          *out++ = v * (1.0 / 65536.0);
-        }
-      break;
-    case Sample::F32:
-      for (size_t i = 0; i < frames; ++i, p += 4 * channels)
-        for (int c = 0; c < used; ++c) {
-          float v;
-          std::memcpy(&v, p + 4 * c, 4);
-          *out++ = FloatToSixteenBitScale(v);
-        }
-      break;
-  }
-}
-
 // g and n of a channel from the analysis on the 16-bit scale, for samples of `bits` bits.
 void ChannelFigures(const ReplayGainAnalyser& an, int channel, int bits, float& gain, float& noClipping) {
   const double shift = 20.0 * std::log10(2.0) * (bits - 16);
@@ -189,8 +141,10 @@ void ChannelFigures(const ReplayGainAnalyser& an, int channel, int bits, float& 
   noClipping = peak > 0 ? float(20.0 * std::log10(peak / 32768.0)) : 0.0f;
 }
 
-void Figures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
-             float& noClippingRight) {
+}  // namespace
+
+void GainFigures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
+                 float& noClippingRight) {
   ChannelFigures(an, 0, bits, gainLeft, noClippingLeft);
   if (an.Channels() == 2) {
     ChannelFigures(an, 1, bits, gainRight, noClippingRight);
@@ -199,50 +153,6 @@ void Figures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float& gai
     noClippingRight = noClippingLeft;
   }
 }
-
-// The MPEG decoder's objects, released on every way out.
-struct Decoding {
-  AVFormatContext* format = nullptr;
-  AVCodecContext* codec = nullptr;
-  AVPacket* packet = nullptr;
-  AVFrame* frame = nullptr;
-  ~Decoding() {
-    av_frame_free(&frame);
-    av_packet_free(&packet);
-    avcodec_free_context(&codec);
-    avformat_close_input(&format);
-  }
-};
-
-// A decoded frame's first `used` channels, interleaved, on the 16-bit scale.
-bool FrameToSixteenBitScale(const AVFrame* f, int used, std::vector<double>& out) {
-  const int n = f->nb_samples;
-  const int channels = f->ch_layout.nb_channels;
-  const auto fmt = AVSampleFormat(f->format);
-  const AVSampleFormat packed = av_get_packed_sample_fmt(fmt);
-  const bool planar = av_sample_fmt_is_planar(fmt);
-  out.resize(size_t(n) * used);
-  for (int c = 0; c < used; ++c) {
-    const uint8_t* base = f->extended_data[planar ? c : 0];
-    const int stride = planar ? 1 : channels;
-    const int first = planar ? 0 : c;
-    double* o = out.data() + c;
-    for (int i = 0; i < n; ++i, o += used) {
-      const int k = first + i * stride;
-      switch (packed) {
-        case AV_SAMPLE_FMT_FLT: *o = FloatToSixteenBitScale(reinterpret_cast<const float*>(base)[k]); break;
-        case AV_SAMPLE_FMT_DBL: *o = FloatToSixteenBitScale(reinterpret_cast<const double*>(base)[k]); break;
-        case AV_SAMPLE_FMT_S16: *o = reinterpret_cast<const int16_t*>(base)[k]; break;
-        case AV_SAMPLE_FMT_S32: *o = reinterpret_cast<const int32_t*>(base)[k] * (1.0 / 65536.0); break;
-        case AV_SAMPLE_FMT_U8: *o = (int(base[k]) - 128) * 256.0; break;
-        default: return false;
-      }
-    }
-  }
-  return true;
-}
-
-}  // namespace
 
 void beChangePause() {
   if (g_steering.running) g_steering.paused = !g_steering.paused;
@@ -278,14 +188,8 @@ int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgres
         int channels, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
         float& noClippingRight, int& progressCount, int formatTag, int batch) {
   (void)windowedMapping;
-  Sample kind;
-  switch (bits) {
-    case 8: kind = Sample::U8; break;
-    case 16: kind = Sample::S16; break;
-    case 24: kind = Sample::S24; break;
-    case 32: kind = formatTag == 3 ? Sample::F32 : Sample::S32; break;
-    default: return kGainCannotAnalyse;
-  }
+  SampleKind kind;
+  if (!SampleKindOf(bits, formatTag, kind)) return kGainCannotAnalyse;
   if (channels < 1 || channels > 64) return kGainCannotAnalyse;
   const int used = std::min(channels, 2);
   const uint64_t frameBytes = uint64_t(channels) * (bits / 8);
@@ -336,95 +240,57 @@ int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgres
   an.Finish();
   if (!run.Poll()) return kGainStopped;
   run.Complete();
-  Figures(an, kind == Sample::F32 ? 32 : bits, gainLeft, gainRight, noClippingLeft, noClippingRight);
+  GainFigures(an, kind == SampleKind::F32 ? 32 : bits, gainLeft, gainRight, noClippingLeft, noClippingRight);
   return kGainOk;
 }
+
+namespace {
+
+constexpr uint64_t kMpegFrameSamples = 1152;
+
+// The poll and the progress of an analysis, as a decoder's control.
+class AnalysisControl : public IAbortable {
+ public:
+  explicit AnalysisControl(AnalysisRun& run) : m_run(run) {}
+  void Abort() override { m_stopped = true; }
+  bool IsAborted() const override { return m_stopped; }
+  bool Checkpoint(double fraction) override {
+    // The MPEG decoder checks in once a frame, which holds 1152 samples of Layer III.
+    if (!m_stopped && !m_run.Tick(kMpegFrameSamples, fraction)) m_stopped = true;
+    return !m_stopped;
+  }
+
+ private:
+  AnalysisRun& m_run;
+  bool m_stopped = false;
+};
+
+}  // namespace
 
 int beGetRadioGain(const QString& path, Session& dialog, IBatchProgressTarget* batchProgress,
                    float& gainLeft, float& gainRight, float& noClippingLeft, float& noClippingRight,
                    int& progressCount, int batch, int driveType) {
   (void)driveType;
-  Decoding d;
-  const QByteArray name = QFile::encodeName(path);
-  if (avformat_open_input(&d.format, name.constData(), nullptr, nullptr) < 0) return kGainCannotAnalyse;
-  // The first MPEG audio stream. Rate and channels come from the frames themselves, so
-  // no frames are decoded ahead to probe them.
-  int stream = -1;
-  for (unsigned i = 0; i < d.format->nb_streams && stream < 0; ++i) {
-    const AVCodecID id = d.format->streams[i]->codecpar->codec_id;
-    if (id == AV_CODEC_ID_MP3 || id == AV_CODEC_ID_MP2 || id == AV_CODEC_ID_MP1) stream = int(i);
-  }
-  if (stream < 0) return kGainCannotAnalyse;
-  const AVStream* st = d.format->streams[stream];
-  const AVCodec* codec = avcodec_find_decoder(st->codecpar->codec_id);
-  if (!codec) return kGainCannotAnalyse;
-  d.codec = avcodec_alloc_context3(codec);
-  d.packet = av_packet_alloc();
-  d.frame = av_frame_alloc();
-  if (!d.codec || !d.packet || !d.frame) return kGainCannotAnalyse;
-  if (avcodec_parameters_to_context(d.codec, st->codecpar) < 0) return kGainCannotAnalyse;
-  d.codec->pkt_timebase = st->time_base;
-  if (avcodec_open2(d.codec, codec, nullptr) < 0) return kGainCannotAnalyse;
-  const int64_t total = d.format->pb ? avio_size(d.format->pb) : -1;
-
-  ReplayGainAnalyser an;
-  int rate = 0, used = 0;
-  std::vector<double> buffer;
   AnalysisRun run(dialog, batchProgress, progressCount, batch);
   if (!run.Poll()) return kGainStopped;
-
-  // Takes the frames the decoder has ready. The demuxer's gapless trimming (encoder delay
-  // and padding from the LAME tag) reaches the decoder as side data and is applied there.
-  auto drain = [&]() -> int {
-    for (;;) {
-      const int rc = avcodec_receive_frame(d.codec, d.frame);
-      if (rc < 0) return 1;  // needs more input, the end, or a damaged frame skipped
-      const AVFrame* f = d.frame;
-      const int channels = f->ch_layout.nb_channels;
-      const int samples = std::max(f->nb_samples, 0);
-      if (samples > 0 && channels > 0) {
-        if (!rate) {
-          rate = f->sample_rate;
-          used = std::min(channels, 2);
-          if (!an.Init(rate, used)) return -2;
-        }
-        // A change of rate or channels within the stream is not followed.
-        if (f->sample_rate == rate && std::min(channels, 2) == used) {
-          if (!FrameToSixteenBitScale(f, used, buffer)) return -2;
-          an.Process(buffer.data(), size_t(samples));
-          g_sampleBytesRead += uint64_t(samples) * channels * av_get_bytes_per_sample(AVSampleFormat(f->format));
-        }
-      }
-      av_frame_unref(d.frame);
-      const int64_t pos = d.format->pb ? avio_tell(d.format->pb) : 0;
-      const double fraction = total > 0 ? double(pos) / double(total) : 0.0;
-      if (!run.Tick(uint64_t(samples), fraction)) return -6;
-    }
-  };
-
-  for (;;) {
-    const int rc = av_read_frame(d.format, d.packet);
-    if (rc < 0) break;  // the end, or a read error: what was decoded counts
-    if (d.packet->stream_index == stream) {
-      const int sent = avcodec_send_packet(d.codec, d.packet);
-      av_packet_unref(d.packet);
-      if (sent < 0 && sent != AVERROR(EAGAIN)) continue;
-      const int r = drain();
-      if (r == -6) return kGainStopped;
-      if (r == -2) return kGainCannotAnalyse;
-    } else {
-      av_packet_unref(d.packet);
-    }
-  }
-  avcodec_send_packet(d.codec, nullptr);
-  const int r = drain();
-  if (r == -6) return kGainStopped;
-  if (r == -2 || an.Frames() == 0) return kGainCannotAnalyse;
-
-  an.Finish();
+  AnalysisControl control(run);
+  DecodeJob job;
+  job.kind = kKindMp3;
+  job.source = path;
+  job.control = &control;
+  // The analysis runs here, on the caller's thread, between the decoder's frames.
+  LevelAnalyser analyser(false, false);
+  const DecodeStatus status = DecodeMpeg(job, analyser);
+  if (status == DecodeStatus::Stopped) return kGainStopped;
+  if (!analyser.GainMeasured()) return kGainCannotAnalyse;
   if (!run.Poll()) return kGainStopped;
   run.Complete();
-  Figures(an, 16, gainLeft, gainRight, noClippingLeft, noClippingRight);
+  const LevelResult r = analyser.Result();
+  gainLeft = r.GainLeft;
+  noClippingLeft = r.NoClippingLeft;
+  // A mono stream gives the same figures to both.
+  gainRight = job.format.channels == 2 ? r.GainRight : r.GainLeft;
+  noClippingRight = job.format.channels == 2 ? r.NoClippingRight : r.NoClippingLeft;
   return kGainOk;
 }
 

@@ -10,6 +10,13 @@
 #include <QString>
 
 struct Session;
+class ReplayGainAnalyser;
+
+// g and n of both channels from a finished analysis of samples on the 16-bit scale, for a
+// word size of `bits` (89 - g grows by 48 dB per 8 bits). A mono analysis gives the same
+// figures to both.
+void GainFigures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
+                 float& noClippingRight);
 
 // Result codes of the gain engine (MeasureAverage, RMS, beGetRadioGain).
 constexpr int kGainOk = 0;

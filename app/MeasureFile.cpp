@@ -1,0 +1,70 @@
+#include "app/MeasureFile.h"
+
+#include <cmath>
+
+#include "app/Job.h"
+#include "app/Session.h"
+#include "formats/Decode.h"
+#include "formats/FlacSource.h"
+#include "level/LevelAnalyser.h"
+
+namespace {
+
+MeasureStatus FromDecode(DecodeStatus s) {
+  switch (s) {
+    case DecodeStatus::Ok: return MeasureStatus::Ok;
+    case DecodeStatus::Stopped: return MeasureStatus::Stopped;
+    case DecodeStatus::CannotOpen: return MeasureStatus::CannotOpen;
+    case DecodeStatus::Unsupported: return MeasureStatus::Unsupported;
+    case DecodeStatus::Damaged: return MeasureStatus::Damaged;
+    case DecodeStatus::NoSound: return MeasureStatus::NoSound;
+    case DecodeStatus::SinkFailed: return MeasureStatus::CannotAnalyse;
+  }
+  return MeasureStatus::CannotOpen;
+}
+
+}  // namespace
+
+MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control) {
+  MeasureReport r;
+  try {
+    DecodeJob job;
+    job.kind = kind;
+    job.source = path;
+    job.control = &control;
+    // MPEG audio (also inside a WAV) begins the analyser with a format that has no peak test.
+    LevelAnalyser analyser(true, true);
+    DecodeToSink(job, analyser);
+    if (job.Began()) analyser.End(SizeRule::AsAnnounced);  // a no-op after the decoder's own End
+    r.messages = job.messages;
+    r.flacError = job.flacError;
+    r.channels = job.format.channels;
+    r.sampleRate = job.format.sampleRate;
+    r.bits = job.format.bits;
+    r.formatTag = job.format.formatTag;
+    r.sampleBytes = job.bytes;
+    const uint64_t frameBytes = uint64_t(std::max(job.format.channels, 1)) * uint64_t(std::max(job.format.bits / 8, 1));
+    if (job.format.sampleRate > 0)
+      r.durationMs = uint32_t(std::llround(double(job.bytes / frameBytes) * 1000.0 / job.format.sampleRate));
+
+    r.status = FromDecode(job.status);
+    // An Ogg stream with a hole keeps what came before it, as its work file does; every
+    // other damage stops the test.
+    if (r.status == MeasureStatus::Damaged && kind == kKindOgg && !job.stopsTest) r.status = MeasureStatus::Ok;
+    if (kind == kKindFlac && job.flacError != kFlacNoError && r.status != MeasureStatus::Stopped)
+      r.status = MeasureStatus::Damaged;
+    if (r.status == MeasureStatus::Ok && analyser.Frames() == 0) r.status = MeasureStatus::NoSound;
+    if (r.status != MeasureStatus::Ok) return r;
+
+    r.result = analyser.Result();
+    if (testMode == 0 && job.format.mpeg)
+      r.status = MeasureStatus::PeakNotOffered;
+    else if (testMode == 0 && !analyser.PeakMeasured())
+      r.status = MeasureStatus::Unsupported;
+    else if (testMode == 1 && !analyser.GainMeasured())
+      r.status = MeasureStatus::CannotAnalyse;
+  } catch (...) {
+    r.status = MeasureStatus::CannotOpen;
+  }
+  return r;
+}

@@ -1,0 +1,212 @@
+#include "level/LevelAnalyser.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstring>
+#include <deque>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "level/GainEngine.h"
+#include "level/LevelScales.h"
+#include "level/PeakScanner.h"
+#include "level/ReplayGain.h"
+#include "level/SampleScale.h"
+
+namespace {
+
+// Bytes handed to the analysis at a time, and how many such blocks may wait for it: the
+// decoder runs ahead by at most this much.
+constexpr size_t kBlockBytes = 256 * 1024;
+constexpr size_t kQueuedBlocks = 4;
+// Frames converted to the 16-bit scale at a time.
+constexpr size_t kScaleFrames = 4096;
+
+}  // namespace
+
+struct LevelAnalyser::State {
+  bool threaded, wantPeak;
+  PcmFormat format;
+  size_t frameBytes = 0;
+  bool begun = false, ended = false;
+
+  // Peak kernel.
+  bool peakBlock = false;
+  SampleBlock block;
+  std::unique_ptr<PeakExtremes> extremes;
+  // Average kernel.
+  bool gainOk = false;
+  SampleKind kind = SampleKind::S16;
+  int used = 0;
+  ReplayGainAnalyser gain;
+  std::vector<double> scaled;
+  uint64_t frames = 0;
+
+  // The block being filled, and the hand-over to the analysis thread.
+  std::vector<uint8_t> fill;
+  std::mutex lock;
+  std::condition_variable changed;
+  std::deque<std::vector<uint8_t>> queue;
+  std::vector<std::vector<uint8_t>> spare;
+  bool closing = false;
+  std::thread worker;
+
+  void Analyse(const uint8_t* p, size_t n) {
+    frames += n;
+    if (extremes) extremes->Feed(p, n);
+    if (!gainOk) return;
+    while (n > 0) {
+      const size_t k = std::min(n, kScaleFrames);
+      ToSixteenBitScale(p, k, format.channels, used, kind, scaled.data());
+      gain.Process(scaled.data(), k);
+      p += k * frameBytes;
+      n -= k;
+    }
+  }
+
+  void Run() {
+    std::unique_lock<std::mutex> g(lock);
+    for (;;) {
+      changed.wait(g, [this] { return !queue.empty() || closing; });
+      if (queue.empty()) return;
+      std::vector<uint8_t> b = std::move(queue.front());
+      queue.pop_front();
+      changed.notify_all();
+      g.unlock();
+      Analyse(b.data(), b.size() / frameBytes);
+      b.clear();
+      g.lock();
+      spare.push_back(std::move(b));
+    }
+  }
+
+  // Hands the whole frames of the filled block over; the cut frame at its end stays.
+  void HandOver() {
+    const size_t whole = fill.size() / frameBytes * frameBytes;
+    if (whole == 0) return;
+    if (!threaded) {
+      Analyse(fill.data(), whole / frameBytes);
+      fill.erase(fill.begin(), fill.begin() + std::ptrdiff_t(whole));
+      return;
+    }
+    std::vector<uint8_t> next;
+    {
+      std::unique_lock<std::mutex> g(lock);
+      changed.wait(g, [this] { return queue.size() < kQueuedBlocks; });
+      if (!spare.empty()) {
+        next = std::move(spare.back());
+        spare.pop_back();
+      }
+    }
+    next.clear();
+    next.reserve(kBlockBytes + frameBytes);
+    next.insert(next.end(), fill.begin() + std::ptrdiff_t(whole), fill.end());
+    fill.resize(whole);
+    {
+      std::lock_guard<std::mutex> g(lock);
+      queue.push_back(std::move(fill));
+      changed.notify_all();
+    }
+    fill = std::move(next);
+  }
+
+  void Stop() {
+    if (!worker.joinable()) return;
+    {
+      std::lock_guard<std::mutex> g(lock);
+      closing = true;
+      changed.notify_all();
+    }
+    worker.join();
+  }
+};
+
+LevelAnalyser::LevelAnalyser(bool threaded, bool peak) : m(std::make_unique<State>()) {
+  m->threaded = threaded;
+  m->wantPeak = peak;
+}
+
+LevelAnalyser::~LevelAnalyser() { m->Stop(); }
+
+bool LevelAnalyser::Begin(const PcmFormat& f) {
+  if (m->begun || f.channels <= 0 || f.bits <= 0 || f.bits % 8 != 0) return false;
+  m->begun = true;
+  m->format = f;
+  m->frameBytes = size_t(f.channels) * size_t(f.bits / 8);
+  if (f.mpeg) m->wantPeak = false;
+  if (m->wantPeak && ChooseSampleBlock(f.channels, f.bits, f.formatTag, m->block)) {
+    m->peakBlock = true;
+    m->extremes = std::make_unique<PeakExtremes>(m->block);
+  }
+  // The gain engine reads up to 64 channels and analyses the first two.
+  m->used = std::min(f.channels, 2);
+  m->gainOk = f.channels <= 64 && SampleKindOf(f.bits, f.formatTag, m->kind) && f.sampleRate > 0 &&
+              m->gain.Init(f.sampleRate, m->used);
+  m->scaled.resize(kScaleFrames * size_t(m->used));
+  m->fill.reserve(kBlockBytes + m->frameBytes);
+  if (m->threaded) m->worker = std::thread([s = m.get()] { s->Run(); });
+  return true;
+}
+
+bool LevelAnalyser::Write(const void* data, size_t bytes) {
+  if (!m->begun || m->ended) return false;
+  const uint8_t* p = static_cast<const uint8_t*>(data);
+  while (bytes > 0) {
+    const size_t room = kBlockBytes - std::min(kBlockBytes, m->fill.size());
+    const size_t n = std::min(bytes, std::max<size_t>(room, 1));
+    m->fill.insert(m->fill.end(), p, p + n);
+    p += n;
+    bytes -= n;
+    if (m->fill.size() >= kBlockBytes) m->HandOver();
+  }
+  return true;
+}
+
+bool LevelAnalyser::End(SizeRule) {
+  if (!m->begun || m->ended) return m->begun;
+  m->HandOver();
+  m->Stop();
+  m->ended = true;
+  if (m->gainOk) m->gain.Finish();
+  return true;
+}
+
+uint64_t LevelAnalyser::Frames() const { return m->frames; }
+
+bool LevelAnalyser::PeakMeasured() const { return m->ended && m->wantPeak && m->format.channels <= 2; }
+
+bool LevelAnalyser::GainMeasured() const { return m->ended && m->gainOk && m->frames > 0; }
+
+LevelResult LevelAnalyser::Result() const {
+  LevelResult r;
+  const PcmFormat& f = m->format;
+  const bool stereo = f.channels != 1;
+  if (PeakMeasured()) {
+    // A layout without a sample block (32 bits under another tag) reads as silence, as the
+    // scanner leaves it.
+    SampleBlock silent{0, f.channels, 32, false, 8, 0};
+    const PeakExtremes none(silent);
+    const PeakExtremes& x = m->extremes ? *m->extremes : none;
+    const int bits = m->extremes ? m->block.bits : 32;
+    for (int c = 0; c < (stereo ? 2 : 1); ++c) {
+      const double v = x.RawPeak(c);
+      const PeakDb db = PeakDecibels(v, bits);
+      (c ? r.WavRight : r.WavLeft) = PeakPercent(v, bits);
+      (c ? r.WavPikRight : r.WavPikLeft) = db.level;
+      (c ? r.WavPikNoClippingRight : r.WavPikNoClippingLeft) = db.noClipDb;
+    }
+  }
+  if (GainMeasured()) {
+    float gainLeft = 0, gainRight = 0, noClipLeft = 0, noClipRight = 0;
+    const int scale = f.gainScaleBits ? f.gainScaleBits : (m->kind == SampleKind::F32 ? 32 : f.bits);
+    GainFigures(m->gain, scale, gainLeft, gainRight, noClipLeft, noClipRight);
+    r.GainLeft = gainLeft;
+    r.NoClippingLeft = noClipLeft;
+    if (f.channels == 2) {
+      r.GainRight = gainRight;
+      r.NoClippingRight = noClipRight;
+    }
+  }
+  return r;
+}
