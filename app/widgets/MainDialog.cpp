@@ -32,6 +32,7 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/HeadlessTest.h"
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
@@ -180,22 +181,21 @@ void CBrenlowv10Dlg::BuildToolBar() {
   m_toolBar->setObjectName("toolBar");
   m_toolBar->setMovable(false);
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  QStyle* st = style();
   struct Item {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* caption;
     const char* tip;
   };
   const Item items[] = {
-      {757, QStyle::SP_DialogOpenButton, "Open", "Open (Ctrl+O)"},
-      {309, QStyle::SP_FileDialogListView, "Batch", "Batch Processor (Ctrl+P)"},
-      {756, QStyle::SP_DialogHelpButton, "Help", "Help (F1)"},
-      {304, QStyle::SP_DialogCloseButton, "Exit", "Exit (Ctrl+X)"},
+      {757, "document-open", "Open", "Open (Ctrl+O)"},
+      {309, "tonvane-batch", "Batch", "Batch Processor (Ctrl+P)"},
+      {756, "help-contents", "Help", "Help (F1)"},
+      {304, "application-exit", "Exit", "Exit (Ctrl+X)"},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
-    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), Tonvane::tr(it.caption));
+    QAction* a = m_toolBar->addAction(tonvane::ThemedIcon(it.icon), Tonvane::tr(it.caption));
     a->setToolTip(Tonvane::tr(it.tip));
     a->setData(it.id);
     a->setObjectName(QStringLiteral("tool%1").arg(it.id));
@@ -327,25 +327,24 @@ void CBrenlowv10Dlg::BuildCentral() {
   m_seekBar->setEnabled(false);
   playerLayout->addWidget(m_seekBar);
   auto* transport = new QHBoxLayout;
-  QStyle* st = style();
   struct Button {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* tip;
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, "Play / Pause (Ctrl+U)"},
-      {kIdStop, QStyle::SP_MediaStop, "Stop (Ctrl+T)"},
-      {kIdShuffle, QStyle::SP_BrowserReload, "Shuffle (S)"},
-      {kIdRepeat, QStyle::SP_ArrowBack, "Repeat (R)"},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, "Mute (F8)"},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, "Previous (P)"},
-      {kIdNext, QStyle::SP_MediaSkipForward, "Next (N)"},
+      {kIdPlay, "media-playback-start", "Play / Pause (Ctrl+U)"},
+      {kIdStop, "media-playback-stop", "Stop (Ctrl+T)"},
+      {kIdShuffle, "media-playlist-shuffle", "Shuffle (S)"},
+      {kIdRepeat, "media-playlist-repeat", "Repeat (R)"},
+      {kIdMute, "audio-volume-muted", "Mute (F8)"},
+      {kIdPrevious, "media-skip-backward", "Previous (P)"},
+      {kIdNext, "media-skip-forward", "Next (N)"},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
-    tb->setIcon(st->standardIcon(b.icon));
+    tb->setIcon(tonvane::ThemedIcon(b.icon));
     tb->setToolTip(Tonvane::tr(b.tip));
     tb->setObjectName(QStringLiteral("transport%1").arg(b.id));
     tb->setIconSize(QSize(22, 22));

@@ -11,9 +11,11 @@ extern "C" {
 #include <clocale>
 #include <cstdio>
 
+#include "app/DataPaths.h"
 #include "app/SingleInstance.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +23,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setOrganizationName(Settings::Organization());
   QCoreApplication::setApplicationName(QStringLiteral("Tonvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
+  // Ties the windows to tonvane.desktop (its icon and name in the panel, on Wayland too).
+  QGuiApplication::setDesktopFileName(QStringLiteral("tonvane"));
+  QApplication::setWindowIcon(tonvane::AppIcon());
   // Numbers in files are written and read in the C locale whatever the interface language.
   std::setlocale(LC_NUMERIC, "C");
   // The decoders report damage through our own messages; FFmpeg's log lines would only
@@ -35,14 +40,13 @@ int main(int argc, char** argv) {
     return 1;
   }
 
-  // The interface language takes effect at start: one .qm per language code beside the
-  // program or in its translations folder; a missing one leaves the program in English.
+  // The interface language takes effect at start: one .qm per language code in the data
+  // folder's translations/; a missing one leaves the program in English.
   QTranslator translator;
   const QString code = Settings::Language();
   if (!code.isEmpty()) {
-    const QString dir = QCoreApplication::applicationDirPath();
-    if (translator.load("tonvane_" + code, dir) || translator.load("tonvane_" + code, dir + "/translations"))
-      app.installTranslator(&translator);
+    const QString qm = tonvane::FindDataFile("translations/tonvane_" + code + ".qm");
+    if (!qm.isEmpty() && translator.load(qm)) app.installTranslator(&translator);
   }
 
   QString file;
