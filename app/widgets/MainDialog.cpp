@@ -42,8 +42,10 @@
 namespace {
 
 // The fixed captions of the property panel, which each reader overwrites with its own lines.
-const char* const kPropertyCaptions[5] = {" Bits on Readout", " Channels", " Frequency", " Audio Format",
-                                          " Size"};
+const char* const kPropertyCaptions[5] = {
+    QT_TRANSLATE_NOOP("Tonvane", " Bits on Readout"), QT_TRANSLATE_NOOP("Tonvane", " Channels"),
+    QT_TRANSLATE_NOOP("Tonvane", " Frequency"), QT_TRANSLATE_NOOP("Tonvane", " Audio Format"),
+    QT_TRANSLATE_NOOP("Tonvane", " Size")};
 
 QLabel* MakeLabel(const QString& text, QWidget* parent, const QString& name = {}) {
   auto* l = new QLabel(text, parent);
@@ -188,10 +190,10 @@ void CBrenlowv10Dlg::BuildToolBar() {
     const char* tip;
   };
   const Item items[] = {
-      {757, "document-open", "Open", "Open (Ctrl+O)"},
-      {309, "tonvane-batch", "Batch", "Batch Processor (Ctrl+P)"},
-      {756, "help-contents", "Help", "Help (F1)"},
-      {304, "application-exit", "Exit", "Exit (Ctrl+X)"},
+      {757, "document-open", QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
+      {309, "tonvane-batch", QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
+      {756, "help-contents", QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
+      {304, "application-exit", QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
@@ -334,13 +336,13 @@ void CBrenlowv10Dlg::BuildCentral() {
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, "media-playback-start", "Play / Pause (Ctrl+U)"},
-      {kIdStop, "media-playback-stop", "Stop (Ctrl+T)"},
-      {kIdShuffle, "media-playlist-shuffle", "Shuffle (S)"},
-      {kIdRepeat, "media-playlist-repeat", "Repeat (R)"},
-      {kIdMute, "audio-volume-muted", "Mute (F8)"},
-      {kIdPrevious, "media-skip-backward", "Previous (P)"},
-      {kIdNext, "media-skip-forward", "Next (N)"},
+      {kIdPlay, "media-playback-start", QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, "media-playback-stop", QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, "media-playlist-shuffle", QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, "media-playlist-repeat", QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, "audio-volume-muted", QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, "media-skip-backward", QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, "media-skip-forward", QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);

@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QIcon>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -6,21 +5,14 @@
 #include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
 #include "support/TestSupport.h"
+#include "widgets/WidgetTestSupport.h"
 
 namespace {
-
-QApplication& IconsApp() {
-  static int argc = 1;
-  static char name[] = "test_widgets";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = qApp ? static_cast<QApplication*>(qApp) : new QApplication(argc, argv);
-  return *app;
-}
 
 // On a desktop whose icon theme has none of our names, every button still shows a drawing:
 // each name the window asks for has a built-in stand-in, and the SVG plug-in renders it.
 TEST(Icons, EveryButtonHasADrawingWithoutAnIconTheme) {
-  IconsApp();
+  widget_support::App();
   testing_support::TestSession t;
   const QString theme = QIcon::themeName();
   QIcon::setThemeName(QStringLiteral("no-such-theme"));
