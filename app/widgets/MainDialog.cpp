@@ -42,8 +42,10 @@
 namespace {
 
 // The fixed captions of the property panel, which each reader overwrites with its own lines.
-const char* const kPropertyCaptions[5] = {" Bits on Readout", " Channels", " Frequency", " Audio Format",
-                                          " Size"};
+const char* const kPropertyCaptions[5] = {
+    QT_TRANSLATE_NOOP("Tonvane", " Bits on Readout"), QT_TRANSLATE_NOOP("Tonvane", " Channels"),
+    QT_TRANSLATE_NOOP("Tonvane", " Frequency"), QT_TRANSLATE_NOOP("Tonvane", " Audio Format"),
+    QT_TRANSLATE_NOOP("Tonvane", " Size")};
 
 QLabel* MakeLabel(const QString& text, QWidget* parent, const QString& name = {}) {
   auto* l = new QLabel(text, parent);
@@ -193,10 +195,10 @@ void CBrenlowv10Dlg::BuildToolBar() {
     const char* tip;
   };
   const Item items[] = {
-      {757, QStyle::SP_DialogOpenButton, "Open", "Open (Ctrl+O)"},
-      {309, QStyle::SP_FileDialogListView, "Batch", "Batch Processor (Ctrl+P)"},
-      {756, QStyle::SP_DialogHelpButton, "Help", "Help (F1)"},
-      {304, QStyle::SP_DialogCloseButton, "Exit", "Exit (Ctrl+X)"},
+      {757, QStyle::SP_DialogOpenButton, QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
+      {309, QStyle::SP_FileDialogListView, QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
+      {756, QStyle::SP_DialogHelpButton, QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
+      {304, QStyle::SP_DialogCloseButton, QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
@@ -341,13 +343,13 @@ void CBrenlowv10Dlg::BuildCentral() {
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, "Play / Pause (Ctrl+U)"},
-      {kIdStop, QStyle::SP_MediaStop, "Stop (Ctrl+T)"},
-      {kIdShuffle, QStyle::SP_BrowserReload, "Shuffle (S)"},
-      {kIdRepeat, QStyle::SP_ArrowBack, "Repeat (R)"},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, "Mute (F8)"},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, "Previous (P)"},
-      {kIdNext, QStyle::SP_MediaSkipForward, "Next (N)"},
+      {kIdPlay, QStyle::SP_MediaPlay, QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, QStyle::SP_MediaStop, QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, QStyle::SP_BrowserReload, QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, QStyle::SP_ArrowBack, QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, QStyle::SP_MediaVolumeMuted, QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, QStyle::SP_MediaSkipBackward, QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, QStyle::SP_MediaSkipForward, QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
