@@ -23,7 +23,8 @@ QString DataBaseSizeText(int64_t n) {
   if (unit == 0) return QString::asprintf("%4d", int(n)).trimmed() + Tonvane::tr(" bytes");
   const QString number =
       (x == std::floor(x) ? QString::asprintf("%4.0f", x) : QString::asprintf("%4.2f", x)).trimmed();
-  static const char* const units[] = {"", " kB", " MB", " GB"};
+  static const char* const units[] = {"", QT_TRANSLATE_NOOP("Tonvane", " kB"), QT_TRANSLATE_NOOP("Tonvane", " MB"),
+                                      QT_TRANSLATE_NOOP("Tonvane", " GB")};
   return number + Tonvane::tr(units[unit]);
 }
 

@@ -32,6 +32,7 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/ShellMenus.h"
 #include "app/HeadlessTest.h"
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
@@ -41,8 +42,10 @@
 namespace {
 
 // The fixed captions of the property panel, which each reader overwrites with its own lines.
-const char* const kPropertyCaptions[5] = {" Bits on Readout", " Channels", " Frequency", " Audio Format",
-                                          " Size"};
+const char* const kPropertyCaptions[5] = {
+    QT_TRANSLATE_NOOP("Tonvane", " Bits on Readout"), QT_TRANSLATE_NOOP("Tonvane", " Channels"),
+    QT_TRANSLATE_NOOP("Tonvane", " Frequency"), QT_TRANSLATE_NOOP("Tonvane", " Audio Format"),
+    QT_TRANSLATE_NOOP("Tonvane", " Size")};
 
 QLabel* MakeLabel(const QString& text, QWidget* parent, const QString& name = {}) {
   auto* l = new QLabel(text, parent);
@@ -147,6 +150,8 @@ void CBrenlowv10Dlg::BuildMenus() {
   QMenu* options = mb->addMenu(Tonvane::tr("&Options"));
   AddCommand(options, kCmdAlwaysOnTop, Tonvane::tr("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
   AddCommand(options, kCmdBeep, Tonvane::tr("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
+  auto* shell = new ShellMenus(this);
+  shell->AddOptionMenus(options, m_actions);
 
   QMenu* help = mb->addMenu(Tonvane::tr("&Help"));
   AddCommand(help, kCmdHelp, Tonvane::tr("Help &Tonvane"), QKeySequence("F1"));
@@ -154,6 +159,8 @@ void CBrenlowv10Dlg::BuildMenus() {
   help->addSeparator();
   AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
 
+  connect(action(kCmdHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
+  connect(action(kCmdAbout), &QAction::triggered, shell, &ShellMenus::OnAbout);
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
   connect(action(kCmdTest), &QAction::triggered, this, &CBrenlowv10Dlg::OnTest);
@@ -188,10 +195,10 @@ void CBrenlowv10Dlg::BuildToolBar() {
     const char* tip;
   };
   const Item items[] = {
-      {757, QStyle::SP_DialogOpenButton, "Open", "Open (Ctrl+O)"},
-      {309, QStyle::SP_FileDialogListView, "Batch", "Batch Processor (Ctrl+P)"},
-      {756, QStyle::SP_DialogHelpButton, "Help", "Help (F1)"},
-      {304, QStyle::SP_DialogCloseButton, "Exit", "Exit (Ctrl+X)"},
+      {757, QStyle::SP_DialogOpenButton, QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
+      {309, QStyle::SP_FileDialogListView, QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
+      {756, QStyle::SP_DialogHelpButton, QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
+      {304, QStyle::SP_DialogCloseButton, QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
@@ -203,6 +210,7 @@ void CBrenlowv10Dlg::BuildToolBar() {
   }
   connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(757), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
+  connect(action(756), &QAction::triggered, action(kCmdHelp), &QAction::trigger);
 }
 
 void CBrenlowv10Dlg::BuildCentral() {
@@ -335,13 +343,13 @@ void CBrenlowv10Dlg::BuildCentral() {
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, "Play / Pause (Ctrl+U)"},
-      {kIdStop, QStyle::SP_MediaStop, "Stop (Ctrl+T)"},
-      {kIdShuffle, QStyle::SP_BrowserReload, "Shuffle (S)"},
-      {kIdRepeat, QStyle::SP_ArrowBack, "Repeat (R)"},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, "Mute (F8)"},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, "Previous (P)"},
-      {kIdNext, QStyle::SP_MediaSkipForward, "Next (N)"},
+      {kIdPlay, QStyle::SP_MediaPlay, QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, QStyle::SP_MediaStop, QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, QStyle::SP_BrowserReload, QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, QStyle::SP_ArrowBack, QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, QStyle::SP_MediaVolumeMuted, QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, QStyle::SP_MediaSkipBackward, QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, QStyle::SP_MediaSkipForward, QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);

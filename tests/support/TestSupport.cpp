@@ -11,7 +11,13 @@
 namespace testing_support {
 
 QString Fixture(const QString& name) { return QStringLiteral(TONVANE_FIXTURES) + "/" + name; }
-QString ApeData(const QString& name) { return QStringLiteral(TONVANE_APE_DATA) + "/" + name; }
+// The shared test data beside the repository; TONVANE_APE_DATA names it for a checkout
+// that stands elsewhere (a worktree).
+QString ApeData(const QString& name) {
+  const QString dir = qEnvironmentVariableIsSet("TONVANE_APE_DATA") ? qEnvironmentVariable("TONVANE_APE_DATA")
+                                                                    : QStringLiteral(TONVANE_APE_DATA);
+  return dir + "/" + name;
+}
 QString CliPath() { return QStringLiteral(TONVANE_CLI); }
 
 TestSession::TestSession() {

@@ -18,20 +18,13 @@
 #include "app/SingleInstance.h"
 #include "app/widgets/MainDialog.h"
 #include "support/TestSupport.h"
+#include "widgets/WidgetTestSupport.h"
 
 namespace {
 
-QApplication& App() {
-  static int argc = 1;
-  static char name[] = "test_widgets";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = new QApplication(argc, argv);
-  return *app;
-}
-
 class MainDialogTest : public ::testing::Test {
  protected:
-  void SetUp() override { App(); }
+  void SetUp() override { widget_support::App(); }
   testing_support::TestSession t;  // settings in a private folder
 };
 
