@@ -4,13 +4,6 @@
 include(GNUInstallDirs)
 set(TONVANE_DATA_INSTALL_DIR ${CMAKE_INSTALL_DATADIR}/tonvane)
 
-# Help pages live in the source tree; a build copies them beside the programs (files added
-# later are picked up by the next build).
-add_custom_target(stage_data ALL
-  COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${CMAKE_SOURCE_DIR} -DBINARY_DIR=${CMAKE_BINARY_DIR}
-          -P ${CMAKE_SOURCE_DIR}/cmake/StageData.cmake
-  COMMENT "Copying data files into the build tree" VERBATIM)
-
 # Sanitizer and fuzz builds exist for their tests only: nothing of theirs is installed.
 if(TONVANE_SANITIZE OR TONVANE_FUZZ)
   return()

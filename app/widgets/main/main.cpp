@@ -1,22 +1,21 @@
 // tonvane: the window.
 #include <QApplication>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
-#include <QTranslator>
 extern "C" {
 #include <libavutil/log.h>
 }
 #include <clocale>
 #include <cstdio>
 
-#include "app/DataPaths.h"
+#include "app/Languages.h"
 #include "app/SingleInstance.h"
+#include "app/Themes.h"
 #include "app/Settings.h"
 #include "app/Text.h"
 #include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -32,21 +31,21 @@ int main(int argc, char** argv) {
   // repeat them on the console.
   av_log_set_level(AV_LOG_QUIET);
 
+  // The interface language takes effect at start, before the refusal of a second copy can
+  // speak: the program's .qm for the stored code and Qt's own for its locale; a missing file
+  // leaves that part English.
+  const QString code = Settings::Language();
+  LanguageLoader language;
+  language.Load(code);
+  ApplyLanguageFont(LanguageOrEnglish(code));
+  ApplyTheme(ThemeFor(StoredTheme()));
+
   SingleInstance instance;
   if (!instance.Acquire()) {
     const QString text = SingleInstance::AlreadyRunningText();
     std::fprintf(stderr, "%s\n", text.toUtf8().constData());
     QMessageBox::critical(nullptr, tonvane::kAppTitle, text);
     return 1;
-  }
-
-  // The interface language takes effect at start: one .qm per language code in the data
-  // folder's translations/; a missing one leaves the program in English.
-  QTranslator translator;
-  const QString code = Settings::Language();
-  if (!code.isEmpty()) {
-    const QString qm = tonvane::FindDataFile("translations/tonvane_" + code + ".qm");
-    if (!qm.isEmpty() && translator.load(qm)) app.installTranslator(&translator);
   }
 
   QString file;
