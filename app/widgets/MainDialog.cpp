@@ -32,6 +32,7 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/ShellMenus.h"
 #include "app/HeadlessTest.h"
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
@@ -149,6 +150,8 @@ void CBrenlowv10Dlg::BuildMenus() {
   QMenu* options = mb->addMenu(Tonvane::tr("&Options"));
   AddCommand(options, kCmdAlwaysOnTop, Tonvane::tr("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
   AddCommand(options, kCmdBeep, Tonvane::tr("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
+  auto* shell = new ShellMenus(this);
+  shell->AddOptionMenus(options, m_actions);
 
   QMenu* help = mb->addMenu(Tonvane::tr("&Help"));
   AddCommand(help, kCmdHelp, Tonvane::tr("Help &Tonvane"), QKeySequence("F1"));
@@ -156,6 +159,8 @@ void CBrenlowv10Dlg::BuildMenus() {
   help->addSeparator();
   AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
 
+  connect(action(kCmdHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
+  connect(action(kCmdAbout), &QAction::triggered, shell, &ShellMenus::OnAbout);
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
   connect(action(kCmdTest), &QAction::triggered, this, &CBrenlowv10Dlg::OnTest);
@@ -205,6 +210,7 @@ void CBrenlowv10Dlg::BuildToolBar() {
   }
   connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(757), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
+  connect(action(756), &QAction::triggered, action(kCmdHelp), &QAction::trigger);
 }
 
 void CBrenlowv10Dlg::BuildCentral() {

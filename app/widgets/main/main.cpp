@@ -1,20 +1,20 @@
 // tonvane: the window.
 #include <QApplication>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
-#include <QTranslator>
 extern "C" {
 #include <libavutil/log.h>
 }
 #include <clocale>
 #include <cstdio>
 
+#include "app/Languages.h"
 #include "app/SingleInstance.h"
+#include "app/Themes.h"
 #include "app/Settings.h"
 #include "app/Text.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -27,22 +27,21 @@ int main(int argc, char** argv) {
   // repeat them on the console.
   av_log_set_level(AV_LOG_QUIET);
 
+  // The interface language takes effect at start, before the refusal of a second copy can
+  // speak: the program's .qm for the stored code and Qt's own for its locale; a missing file
+  // leaves that part English.
+  const QString code = Settings::Language();
+  LanguageLoader language;
+  language.Load(code);
+  ApplyLanguageFont(LanguageOrEnglish(code));
+  ApplyTheme(ThemeFor(StoredTheme()));
+
   SingleInstance instance;
   if (!instance.Acquire()) {
     const QString text = SingleInstance::AlreadyRunningText();
     std::fprintf(stderr, "%s\n", text.toUtf8().constData());
     QMessageBox::critical(nullptr, tonvane::kAppTitle, text);
     return 1;
-  }
-
-  // The interface language takes effect at start: one .qm per language code beside the
-  // program or in its translations folder; a missing one leaves the program in English.
-  QTranslator translator;
-  const QString code = Settings::Language();
-  if (!code.isEmpty()) {
-    const QString dir = QCoreApplication::applicationDirPath();
-    if (translator.load("tonvane_" + code, dir) || translator.load("tonvane_" + code, dir + "/translations"))
-      app.installTranslator(&translator);
   }
 
   QString file;
