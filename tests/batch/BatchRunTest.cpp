@@ -274,3 +274,18 @@ TEST_F(BatchRunTest, BadFilesInARun) {
   const QStringList left = QDir(t.Path("bad")).entryList({"*.tmp"}, QDir::Files);
   EXPECT_TRUE(left.isEmpty()) << left.join(", ").toStdString();
 }
+
+// The progress dialog's texts.
+TEST(BatchRunTexts, Table) {
+  EXPECT_EQ(BatchEstimateText(0), "0 sec");
+  EXPECT_EQ(BatchEstimateText(59.4), "59 sec");
+  EXPECT_EQ(BatchEstimateText(59.5), "1 min 0 sec");  // rounding carries into the minutes
+  EXPECT_EQ(BatchEstimateText(3725.0), "1 hr 2 min 5 sec");
+  EXPECT_EQ(BatchTestedText(3, 5), "3 from 5 files");
+  EXPECT_EQ(BatchTestedText(1, 1), "1 from 1 file");
+  EXPECT_EQ(BatchTestedColor(3, 5), 0x180acdu);
+  EXPECT_TRUE(BatchTestedBlinks(3, 5));
+  EXPECT_EQ(BatchTestedColor(5, 5), 0xcb1e1eu);
+  EXPECT_EQ(BatchBarText(42), "42% Completed");
+  EXPECT_EQ(BatchNoFilesText(kKindAlac, "/m"), "Sorry, but the open folder /m does not contain any Mp4 files.");
+}
