@@ -1,10 +1,13 @@
 // The sound system over a manual output: levels, pause, mute, seeks, ends, bad files.
 #include <QDataStream>
 #include <QFile>
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <chrono>
 #include <thread>
 
+#include "player/Beep.h"
 #include "support/TestSupport.h"
 #include "player/SoundTestSupport.h"
 
@@ -262,6 +265,27 @@ TEST(SoundSystemSdl, DummyDriverPlaysToTheEnd) {
   EXPECT_FALSE(playing);
   EXPECT_EQ(ms, 0u);  // an ended channel reads no position
   system->release();
+}
+
+}  // namespace
+
+namespace {
+
+// The end-of-test sound comes from the working folder first, else the one the build made,
+// and plays through the shared system.
+TEST(Beep, NotifyFromTheWorkingFolderFirst) {
+  ManualSystem sys;
+  QTemporaryDir dir;
+  const QString before = QDir::currentPath();
+  ASSERT_TRUE(QDir::setCurrent(dir.path()));
+  EXPECT_TRUE(FindNotifySound().endsWith("/notify.wav"));
+  EXPECT_NE(FindNotifySound(), dir.filePath("notify.wav"));
+  ASSERT_TRUE(QFile::copy(Fixture("player/tone_1k.wav"), dir.filePath("notify.wav")));
+  EXPECT_EQ(FindNotifySound(), QFileInfo(dir.filePath("notify.wav")).absoluteFilePath());
+  PlayNotify();
+  EXPECT_NEAR(Peak(sys.Pull(200), 0), 0.5f, 0.005f);
+  ReleaseNotify();
+  QDir::setCurrent(before);
 }
 
 }  // namespace
