@@ -54,7 +54,7 @@ class BatchRunTest : public ::testing::Test {
   QString Put(const QString& fixture, const QString& name) {
     const QString to = t.Path(name);
     QDir().mkpath(QFileInfo(to).path());
-    EXPECT_TRUE(QFile::copy(fixture, to)) << fixture.toStdString();
+    EXPECT_TRUE(QFile::exists(to) || QFile::copy(fixture, to)) << fixture.toStdString();
     return to;
   }
   // A list of a few files of every kind under odd names.
@@ -198,7 +198,6 @@ TEST_F(BatchRunTest, EveryKindMatchesSingleTestAndLog) {
       QStringList texts[2];
       for (int pass = 0; pass < 2; ++pass) {
         ASSERT_TRUE(CreateEmptyLog(t.s->m_logPath));
-        QDir(t.Path("all")).removeRecursively();
         BatchList list(kAnyKind);
         list.SetShowDb(db);
         FillEveryKind(list);
@@ -234,7 +233,7 @@ TEST_F(BatchRunTest, EveryKindMatchesSingleTestAndLog) {
         }
       }
       EXPECT_EQ(texts[0], texts[1]);
-      EXPECT_EQ(logBytes[0].size(), logBytes[1].size());
+      EXPECT_EQ(logBytes[0], logBytes[1]);
       EXPECT_GT(logBytes[0].size(), 226);
     }
   }
