@@ -327,7 +327,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>&amp;Repeat</source>
-        <translation>&amp;Wiederholen</translation>
+        <translation>Wi&amp;ederholen</translation>
     </message>
     <message>
         <source>R&amp;epeat All</source>
@@ -343,7 +343,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>&amp;Beep when finished</source>
-        <translation>&amp;Signalton am Ende</translation>
+        <translation>Signal&amp;ton am Ende</translation>
     </message>
     <message>
         <source>&amp;Help</source>
