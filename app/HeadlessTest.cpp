@@ -215,8 +215,13 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   fromLog = false;
   if (g_workPath.isEmpty() || s.m_fileNotOpened) {
     s.m_statusText = Tonvane::tr("  Test is stopped");
-    s.m_prompt.Ask(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it.\n"
-                      "Do You want to open a dialog of selection a file?"));
+    const bool yes = s.m_prompt.Ask(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it.\n"
+                                                "Do You want to open a dialog of selection a file?"));
+    s.m_statusText.clear();
+    if (yes) {
+      s.m_fileNotOpened = 0;
+      OnFileOpen(s);
+    }
     return 0;
   }
   s.m_testRunning = 1;
@@ -227,6 +232,9 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   auto stop = [&s]() {
     s.m_testRunning = 0;
     s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
+    // A question answered Yes during the test (a work file without sound data) asks for
+    // another file once the test has let go of this one.
+    if (s.m_openDialogPending) OnFileOpen(s);
     return 0;
   };
   // The bar creeps towards 30 percent while the worker still fills the work file.
@@ -238,6 +246,8 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   }
   JoinWorker();
   if (g_copyFailed.exchange(0) || g_workPath.isEmpty()) return stop();
+  // A FLAC file whose decoder reported errors is not tested, whether or not the log knows it.
+  if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName)) return stop();
 
   const QString key = g_sourcePath;
   const int mode = s.m_testMode;

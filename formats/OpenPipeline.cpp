@@ -348,7 +348,9 @@ QString UnsupportedFormatQuestion(const QString& path) {
 
 void RefuseUnsupportedFormat(Session& s) {
   s.m_statusText = Tonvane::tr("  Test is stopped");
-  if (!s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName))) {
+  if (s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName))) {
+    OnFileOpen(s);  // inside the open: shown once the refused file has been let go
+  } else {
     s.m_opening = 0;
     s.m_fileNotOpened = 1;
   }

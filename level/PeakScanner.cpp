@@ -419,7 +419,8 @@ bool FindSoundData(Session& s, MappedFile& file, bool windowed) {
   s.m_mappedView = nullptr;
   if (!found) {
     s.m_statusText = Tonvane::tr("  Test is stopped");
-    s.m_prompt.Ask(NoSoundDataQuestion(s.m_fileName));
+    // Yes: the test flow offers the open dialog once it has stopped.
+    if (s.m_prompt.Ask(NoSoundDataQuestion(s.m_fileName))) s.m_openDialogPending = 1;
   }
   return found;
 }

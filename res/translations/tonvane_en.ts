@@ -4,6 +4,10 @@
 <context>
     <name>Tonvane</name>
     <message>
+        <source>This program is free software under the GNU General Public License, version 2 or later. It comes with no warranty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -93,7 +97,123 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Russian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program should be restarted to set another interface language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Windows XP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Office XP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;ffice 2000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off&amp;ice 2003</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measures how loud audio files are: the peak level and the average level against the 89 dB reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web site:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Libraries in use:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -417,6 +537,22 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Interface Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help of the program is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help page %1 cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Error initializing decoder library faad. </source>
         <translation type="unfinished"></translation>
     </message>
@@ -498,6 +634,58 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Wav files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp3 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any FLAC files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Ogg files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any APE files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp4 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M3U Playlist (*.m3u;*.m3u8)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -803,6 +991,358 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>The database has been successfully cleared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sound device is available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Volume&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Previous&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Next&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Repeat&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Seek&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Play&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Stop&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Mute&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Pause&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Shuffle&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No free channel could be found to play the sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The specified channel has been reused to play another sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading file. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t perform seek operation. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends before any sound could be read from it. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File not found. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported file or audio format. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system is not ready for this call. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid object handle was used. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid parameter was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid seek position was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not enough memory or resources. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error initializing the sound output device. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system has not been initialized yet. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>№</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> TB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> not tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but test of the volume level was stopped because the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Joint Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Dual Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Mono</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM IEEE Float</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM (Pulse-Code Modulation)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-4 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-2 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 ALAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC (Free Lossless Audio Codec)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ABR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Monkey&apos;s Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; Right: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mono Channel: </source>
         <translation type="unfinished"></translation>
     </message>
 </context>
