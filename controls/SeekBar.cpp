@@ -88,6 +88,7 @@ void SeekBar::enterEvent(QEnterEvent* e) {
 void SeekBar::mousePressEvent(QMouseEvent* e) {
   if (e->button() != Qt::LeftButton) return;
   HitTest();
+  m_pressed = true;
   snd::Channel* channel = m_host != nullptr ? m_host->SeekChannel() : nullptr;
   if (channel != nullptr) {
     bool paused = false;
@@ -150,6 +151,7 @@ void SeekBar::mouseReleaseEvent(QMouseEvent* e) {
   if (e->button() != Qt::LeftButton) return;
   snd::Channel* channel = m_host != nullptr ? m_host->SeekChannel() : nullptr;
   m_dragging = false;
+  m_pressed = false;
   if (channel != nullptr) {
     m_followTimer.stop();
     const int p = value();
