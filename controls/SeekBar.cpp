@@ -82,7 +82,6 @@ void SeekBar::HitTest() {
 
 void SeekBar::enterEvent(QEnterEvent* e) {
   QSlider::enterEvent(e);
-  HitTest();
 }
 
 void SeekBar::mousePressEvent(QMouseEvent* e) {

@@ -14,6 +14,7 @@ extern "C" {
 #include "app/Settings.h"
 #include "app/Text.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/MainWindowPlayer.h"
 #include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
   if (args.size() > 1) file = QFileInfo(args.at(1)).absoluteFilePath();
 
   CBrenlowv10Dlg dlg(file);
+  MainWindowPlayer player(&dlg);
   dlg.resize(760, 600);
   dlg.show();
   return app.exec();
