@@ -4,6 +4,10 @@
 <context>
     <name>Tonvane</name>
     <message>
+        <source>This program is free software under the GNU General Public License, version 2 or later. It comes with no warranty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -93,27 +97,271 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Russian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program should be restarted to set another interface language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
+        <source>&amp;Windows XP</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Channels</source>
+        <source>&amp;Office XP</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Frequency</source>
+        <source>O&amp;ffice 2000</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Audio Format</source>
+        <source>Off&amp;ice 2003</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Size</source>
+        <source>&amp;Grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measures how loud audio files are: the peak level and the average level against the 89 dB reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web site:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Libraries in use:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processing: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%p%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>% </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -121,7 +369,19 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
+        <source>&amp;Add Files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -129,7 +389,35 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -137,35 +425,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
+        <source>&amp;Playback</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -189,15 +449,207 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -213,19 +665,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -238,10 +678,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>&amp;About Tonvane...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -265,10 +701,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -281,19 +713,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Property</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -306,10 +726,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Clipping</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Player</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -405,15 +821,27 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Interface Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help of the program is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help page %1 cannot be opened.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -498,6 +926,58 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Wav files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp3 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any FLAC files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Ogg files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any APE files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp4 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M3U Playlist (*.m3u;*.m3u8)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -803,6 +1283,210 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>The database has been successfully cleared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>№</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> TB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> not tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but test of the volume level was stopped because the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Joint Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Dual Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Mono</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM IEEE Float</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM (Pulse-Code Modulation)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-4 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-2 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 ALAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC (Free Lossless Audio Codec)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ABR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Monkey&apos;s Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; Right: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mono Channel: </source>
         <translation type="unfinished"></translation>
     </message>
 </context>
