@@ -176,6 +176,7 @@ ScanOutcome ScanMp4(BatchFileInfo& f, QString* family) {
   if (aac.type() == AACFile::kTypeAac) {
     f.audioFormat = aac.mpegVersion() == 0 ? Tonvane::tr("MPEG-4 AAC") : Tonvane::tr("MPEG-2 AAC");
     f.kind = kKindAac;
+    if (f.bits == 0) f.bits = 16;  // a raw stream doesn't say; its decoder gives 16 bits
   } else if (aac.type() == AACFile::kTypeAlac) {
     f.audioFormat = Tonvane::tr("MPEG4 ALAC");
     f.kind = kKindAlac;

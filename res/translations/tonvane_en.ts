@@ -1286,6 +1286,114 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>No sound device is available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Volume&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Previous&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Next&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Repeat&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Seek&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Play&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Stop&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Mute&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Pause&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Shuffle&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No free channel could be found to play the sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The specified channel has been reused to play another sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading file. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t perform seek operation. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends before any sound could be read from it. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File not found. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported file or audio format. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system is not ready for this call. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid object handle was used. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid parameter was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid seek position was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not enough memory or resources. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error initializing the sound output device. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system has not been initialized yet. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> cannot be found.</source>
         <translation type="unfinished"></translation>
     </message>
