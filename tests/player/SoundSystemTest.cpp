@@ -18,7 +18,7 @@ namespace {
 
 // A 16-bit stereo 44.1 kHz file whose left channel rises evenly from -1 to +1 over its
 // length, so each sample's value says where in the file it stands.
-QString WriteRamp(const QString& path, int seconds) {
+QString WriteRamp(const QString& path, int seconds, quint32 rate = 44100) {
   const int frames = 44100 * seconds;
   QByteArray data;
   data.reserve(frames * 4);
@@ -35,7 +35,7 @@ QString WriteRamp(const QString& path, int seconds) {
   s.writeRawData("RIFF", 4);
   s << quint32(36 + data.size());
   s.writeRawData("WAVEfmt ", 8);
-  s << quint32(16) << quint16(1) << quint16(2) << quint32(44100) << quint32(44100 * 4) << quint16(4) << quint16(16);
+  s << quint32(16) << quint16(1) << quint16(2) << quint32(rate) << quint32(rate * 4) << quint16(4) << quint16(16);
   s.writeRawData("data", 4);
   s << quint32(data.size());
   file.append(data);
@@ -223,6 +223,15 @@ TEST_F(SoundSystemTest, BadFilesAreRefused) {
     EXPECT_EQ(sys.system->createStream(Fixture(c.name), 0, nullptr, &sound), c.expected);
     EXPECT_EQ(sound, nullptr);
   }
+  // A rate no device plays.
+  snd::Sound* sound = nullptr;
+  EXPECT_EQ(sys.system->createStream(WriteRamp(dir.filePath("fast.wav"), 1, 2000000), 0, nullptr, &sound), snd::ERR_FORMAT);
+  // Damaged frames in the middle are skipped; the sound plays to its end.
+  snd::Channel* ch = Play(Open(Fixture("player/damaged.flac")));
+  sys.Pull(2500);
+  bool playing = true;
+  ch->isPlaying(&playing);
+  EXPECT_FALSE(playing);
   EXPECT_EQ(snd::ErrorString(snd::ERR_FORMAT), "Unsupported file or audio format. ");
   EXPECT_EQ(snd::ErrorString(96), "Unknown error.");
 }
