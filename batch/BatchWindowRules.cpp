@@ -8,6 +8,7 @@
 #include "app/Text.h"
 #include "batch/BatchAdd.h"
 #include "batch/BatchList.h"
+#include "batch/BatchRun.h"
 #include "formats/Kinds.h"
 
 BatchEnablingState BatchEnabling(const BatchEnablingInput& in) {
@@ -54,14 +55,6 @@ void SaveColumnLayout(int batchKind, const std::vector<BatchColumnState>& column
   }
 }
 
-QString BatchFilesText(int count) {
-  return QString::number(count) + (count == 1 ? Tonvane::tr(" file") : Tonvane::tr(" files"));
-}
-
-QString BatchTestedText(int tested, int total) {
-  return QString::number(tested) + Tonvane::tr(" from ") + BatchFilesText(total);
-}
-
 BatchBarLook BatchBarLookOf(BatchBarState state) {
   switch (state) {
     case BatchBarState::Paused: return {0x2deaff, 0x2deaff, 0xe73937, 0xe73937};
@@ -75,19 +68,7 @@ void BatchCountdown::Tick() {
   if (int(m_remaining) > 0) m_remaining -= 1.0;
 }
 
-QString BatchCountdown::Text() const {
-  // Half a second and more counts as a whole one; rounding before the split keeps "60 sec" out.
-  const double r = std::max(0.0, m_remaining);
-  const double whole = std::floor(r);
-  const long total = long((r - whole) * 10 >= 5 ? std::ceil(r) : whole);
-  const long hours = total / 3600;
-  const long minutes = total % 3600 / 60;
-  const long seconds = total % 60;
-  QString text;
-  if (hours > 0) text += QString::number(hours) + Tonvane::tr(" hr ");
-  if (minutes > 0) text += QString::number(minutes) + Tonvane::tr(" min ");
-  return text + QString::number(seconds) + Tonvane::tr(" sec");
-}
+QString BatchCountdown::Text() const { return BatchEstimateText(m_remaining); }
 
 int CountSupportedFiles(int batchKind, const QString& folder) {
   int n = 0;

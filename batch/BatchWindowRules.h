@@ -66,13 +66,6 @@ struct BatchColumnState {
 std::vector<BatchColumnState> LoadColumnLayout(int batchKind);
 void SaveColumnLayout(int batchKind, const std::vector<BatchColumnState>& columns);
 
-// "5 files", "1 file".
-QString BatchFilesText(int count);
-// The end of a run: "3 from 5 files", and its colour (all tested or a shortfall).
-QString BatchTestedText(int tested, int total);
-constexpr uint32_t kTestedAllColor = 0xcb1e1e;
-constexpr uint32_t kTestedShortColor = 0x180acd;
-
 // Progress bar colours (0x00BBGGRR): running (gradient), paused (flat), cancelled (gradient).
 struct BatchBarLook {
   uint32_t from, to, text, emptyText;
@@ -88,7 +81,7 @@ class BatchCountdown {
   void Tick();
   double Remaining() const { return m_remaining; }
   // "1 hr 2 min 3 sec"; hours and minutes only when above 0.
-  QString Text() const;
+  QString Text() const;  // the run's estimate text of what is left
 
  private:
   double m_remaining = 0;

@@ -45,7 +45,7 @@ CBatchProgress::CBatchProgress(BatchList& list, Session& s, const BatchRunOption
   m_bar->setObjectName("progressBar");
   m_bar->setRange(0, 100);
   m_bar->setValue(0);
-  m_bar->setFormat(Tonvane::tr("%p%") + Tonvane::tr(" Completed"));
+  m_bar->setFormat(BatchBarText(0));
   m_bar->setAccessibleName(Tonvane::tr("Batch Test..."));
   layout->addWidget(m_bar);
 
@@ -101,7 +101,7 @@ CBatchProgress::CBatchProgress(BatchList& list, Session& s, const BatchRunOption
   m_blinkTimer = new QTimer(this);
   m_blinkTimer->setInterval(500);
   connect(m_blinkTimer, &QTimer::timeout, this, [this] {
-    m_count->setStyleSheet(m_count->styleSheet().contains("transparent") ? ColourCss(kTestedShortColor)
+    m_count->setStyleSheet(m_count->styleSheet().contains("transparent") ? ColourCss(BatchTestedColor(0, 1))
                                                                           : QStringLiteral("color: transparent;"));
   });
 
@@ -126,7 +126,7 @@ void CBatchProgress::SetStatus(const QString& text) {
 void CBatchProgress::StartRun() {
   if (m_running || m_finished) return;
   m_fileCaption->setText(Tonvane::tr("Test of the file:"));
-  SetStatus(Tonvane::tr("Please, wait the batch test is fulfilling"));
+  SetStatus(BatchRunningText());
   m_running = true;
   m_s.m_batchActive = 1;
   BatchRunner runner(m_list, m_s, m_control, m_options);
@@ -147,7 +147,7 @@ void CBatchProgress::StartRun() {
 
 void CBatchProgress::Count(int files) {
   m_total = files;
-  m_count->setText(BatchFilesText(files));
+  m_count->setText(BatchCountText(files));
 }
 
 void CBatchProgress::FileStarted(int, const QString& path) {
@@ -158,7 +158,8 @@ void CBatchProgress::FileStarted(int, const QString& path) {
 
 void CBatchProgress::Progress(int percent) {
   m_bar->setValue(percent);
-  setWindowTitle(QString::number(percent) + Tonvane::tr("% ") + Tonvane::tr("Batch Test..."));
+  m_bar->setFormat(BatchBarText(percent));
+  setWindowTitle(BatchTitleText(percent));
 }
 
 void CBatchProgress::Estimate(double seconds) {
@@ -184,10 +185,10 @@ void CBatchProgress::OnPause() {
   if (m_userPaused) {
     m_countdownTimer->stop();
     m_pause->setText(Tonvane::tr("Continue"));
-    SetStatus(Tonvane::tr("Test is suspended"));
+    SetStatus(BatchPausedText());
   } else {
     m_pause->setText(Tonvane::tr("Pause"));
-    SetStatus(Tonvane::tr("Please, wait the batch test is fulfilling"));
+    SetStatus(BatchRunningText());
     if (m_countdown.Remaining() > 0) m_countdownTimer->start();
   }
 }
@@ -210,7 +211,7 @@ void CBatchProgress::Cancelled() {
   const BatchBarLook look = BatchBarLookOf(BatchBarState::Cancelled);
   m_bar->SetColors(look.from, look.to, look.text, look.emptyText);
   m_bar->setValue(0);
-  m_bar->SetFixedText(Tonvane::tr("Test is cancelled"));
+  m_bar->SetFixedText(BatchCancelledText());
   m_status->hide();
 }
 
@@ -228,11 +229,11 @@ void CBatchProgress::Finished(const BatchRunSummary& summary) {
   if (!summary.cancelled) SetStatus(QString());
   const int tested = summary.tested + summary.fromLog;
   m_countCaption->setText(Tonvane::tr("Tested:"));
-  m_countCaption->setStyleSheet(ColourCss(kTestedAllColor));
+  m_countCaption->setStyleSheet(ColourCss(BatchTestedColor(1, 1)));
   m_count->setText(BatchTestedText(tested, summary.count));
   m_count->setAccessibleName(m_count->text());
-  m_count->setStyleSheet(ColourCss(tested == summary.count ? kTestedAllColor : kTestedShortColor));
-  if (tested != summary.count) m_blinkTimer->start();
+  m_count->setStyleSheet(ColourCss(BatchTestedColor(tested, summary.count)));
+  if (BatchTestedBlinks(tested, summary.count)) m_blinkTimer->start();
 }
 
 void CBatchProgress::closeEvent(QCloseEvent* e) {

@@ -34,6 +34,7 @@
 #include "app/widgets/ShellMenus.h"
 #include "batch/BatchAdd.h"
 #include "batch/BatchList.h"
+#include "batch/BatchRun.h"
 #include "controls/WaitDlg.h"
 #include "formats/Kinds.h"
 #include "log/TestLog.h"
@@ -584,9 +585,7 @@ void CBatch::OnAddFolder() {
   const QString folder = QFileInfo(chosen).absoluteFilePath();
   if (CountSupportedFiles(m_batchKind, folder) == 0) {
     HideHint();
-    const KindInfo* k = KindInfoOf(m_batchKind);
-    m_s.m_prompt.Message(Tonvane::tr("Sorry, but the open folder ") + folder + (k ? Tonvane::tr(k->noFilesText) : QString()),
-                         PromptIcon::Warning);
+    m_s.m_prompt.Message(BatchNoFilesText(m_batchKind, folder), PromptIcon::Warning);
     return;  // the folder line and the rows stay as they were
   }
   AddFrame(true, [&](BatchAdder& adder) {

@@ -257,14 +257,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%p%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> Completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Batch Test...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -282,22 +274,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please, wait the batch test is fulfilling</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>% </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test is suspended</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test is cancelled</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -578,10 +554,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Select Your Folder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, but the open folder </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1398,7 +1370,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the folder </source>
+        <source>Sorry, but the folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1518,10 +1494,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> from </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> hr </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1531,6 +1503,30 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -33,13 +33,6 @@ TEST(BatchWindowRules, CountdownTexts) {
   }
 }
 
-TEST(BatchWindowRules, CountTexts) {
-  EXPECT_EQ(BatchFilesText(1), "1 file");
-  EXPECT_EQ(BatchFilesText(0), "0 files");
-  EXPECT_EQ(BatchTestedText(3, 5), "3 from 5 files");
-  EXPECT_EQ(BatchTestedText(1, 1), "1 from 1 file");
-}
-
 // List commands need rows; removes wait for a search; the preview follows its own flags.
 TEST(BatchWindowRules, Enabling) {
   struct Case {
