@@ -32,6 +32,7 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/widgets/ShellMenus.h"
 #include "app/HeadlessTest.h"
 #include "formats/OpenPipeline.h"
@@ -164,6 +165,7 @@ void CBrenlowv10Dlg::BuildMenus() {
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
   connect(action(kCmdTest), &QAction::triggered, this, &CBrenlowv10Dlg::OnTest);
+  connect(action(kCmdBatch), &QAction::triggered, this, &CBrenlowv10Dlg::OnBatchProcessor);
   connect(action(kCmdShowPercent), &QAction::triggered, this, [this] { SetShowDb(0); });
   connect(action(kCmdShowDb), &QAction::triggered, this, [this] { SetShowDb(1); });
   connect(action(kCmdUseDatabase), &QAction::triggered, this, [this](bool on) { m_s.m_useDatabase = on ? 1 : 0; });
@@ -187,22 +189,21 @@ void CBrenlowv10Dlg::BuildToolBar() {
   m_toolBar->setObjectName("toolBar");
   m_toolBar->setMovable(false);
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  QStyle* st = style();
   struct Item {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* caption;
     const char* tip;
   };
   const Item items[] = {
-      {757, QStyle::SP_DialogOpenButton, QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
-      {309, QStyle::SP_FileDialogListView, QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
-      {756, QStyle::SP_DialogHelpButton, QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
-      {304, QStyle::SP_DialogCloseButton, QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
+      {757, "document-open", QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
+      {309, "tonvane-batch", QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
+      {756, "help-contents", QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
+      {304, "application-exit", QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
-    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), Tonvane::tr(it.caption));
+    QAction* a = m_toolBar->addAction(tonvane::ThemedIcon(it.icon), Tonvane::tr(it.caption));
     a->setToolTip(Tonvane::tr(it.tip));
     a->setData(it.id);
     a->setObjectName(QStringLiteral("tool%1").arg(it.id));
@@ -210,6 +211,7 @@ void CBrenlowv10Dlg::BuildToolBar() {
   }
   connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(757), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
+  connect(action(309), &QAction::triggered, this, &CBrenlowv10Dlg::OnBatchProcessor);
   connect(action(756), &QAction::triggered, action(kCmdHelp), &QAction::trigger);
 }
 
@@ -335,25 +337,24 @@ void CBrenlowv10Dlg::BuildCentral() {
   m_seekBar->setEnabled(false);
   playerLayout->addWidget(m_seekBar);
   auto* transport = new QHBoxLayout;
-  QStyle* st = style();
   struct Button {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* tip;
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
-      {kIdStop, QStyle::SP_MediaStop, QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
-      {kIdShuffle, QStyle::SP_BrowserReload, QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
-      {kIdRepeat, QStyle::SP_ArrowBack, QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
-      {kIdNext, QStyle::SP_MediaSkipForward, QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
+      {kIdPlay, "media-playback-start", QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, "media-playback-stop", QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, "media-playlist-shuffle", QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, "media-playlist-repeat", QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, "audio-volume-muted", QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, "media-skip-backward", QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, "media-skip-forward", QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
-    tb->setIcon(st->standardIcon(b.icon));
+    tb->setIcon(tonvane::ThemedIcon(b.icon));
     tb->setToolTip(Tonvane::tr(b.tip));
     tb->setObjectName(QStringLiteral("transport%1").arg(b.id));
     tb->setIconSize(QSize(22, 22));
