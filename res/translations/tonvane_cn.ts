@@ -571,7 +571,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  声道                </translation>
+        <translation>  声道      </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  音频格式           APE</translation>
+        <translation>  音频格式  APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  音频格式          FLAC</translation>
+        <translation>  音频格式  FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  比特率                 </translation>
+        <translation>  比特率    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  采样率            </translation>
+        <translation>  采样率    </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  音频格式          MPEG-4 AAC LC</translation>
+        <translation>  音频格式  MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  音频格式          MPEG-2 AAC</translation>
+        <translation>  音频格式  MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  音频格式          MPEG-4 ALAC</translation>
+        <translation>  音频格式  MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  比特率                </translation>
+        <translation>  比特率    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  模式                  立体声</translation>
+        <translation>  模式      立体声</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  模式                  联合立体声</translation>
+        <translation>  模式      联合立体声</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  模式                  双声道</translation>
+        <translation>  模式      双声道</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  模式                  单声道</translation>
+        <translation>  模式      单声道</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  大小                    </translation>
+        <translation>  大小      </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  音频格式          Ogg Vorbis</translation>
+        <translation>  音频格式  Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  采样位数        </translation>
+        <translation>  采样位数  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  声道                 </translation>
+        <translation>  声道      </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  采样率             </translation>
+        <translation>  采样率    </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  音频格式          PCM</translation>
+        <translation>  音频格式  PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  采样位数          8</translation>
+        <translation>  采样位数  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  采样位数         16</translation>
+        <translation>  采样位数  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  采样位数         24</translation>
+        <translation>  采样位数  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  采样位数         32</translation>
+        <translation>  采样位数  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  声道                 1</translation>
+        <translation>  声道      1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  声道                 2</translation>
+        <translation>  声道      2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  音频格式          PCM IEEE Float</translation>
+        <translation>  音频格式  PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

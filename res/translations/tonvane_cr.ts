@@ -571,7 +571,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanali              </translation>
+        <translation>  Kanali            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format             APE</translation>
+        <translation>  Format            APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +691,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Brzina bitova          </translation>
+        <translation>  Brzina bitova     </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +731,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Brzina bitova         </translation>
+        <translation>  Brzina bitova     </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Način                 Stereo</translation>
+        <translation>  Način             Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Način                 Združeni stereo</translation>
+        <translation>  Način             Združeni stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Način                 Dvostruki kanal</translation>
+        <translation>  Način             Dvostruki kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Način                 Mono</translation>
+        <translation>  Način             Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Veličina                </translation>
+        <translation>  Veličina          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +837,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bitova po uzorku </translation>
+        <translation>  Bitova po uzorku  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanali               </translation>
+        <translation>  Kanali            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvencija        </translation>
+        <translation>  Frekvencija       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +875,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bitova po uzorku 16</translation>
+        <translation>  Bitova po uzorku  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bitova po uzorku 24</translation>
+        <translation>  Bitova po uzorku  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bitova po uzorku 32</translation>
+        <translation>  Bitova po uzorku  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +919,11 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanali               1</translation>
+        <translation>  Kanali            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanali               2</translation>
+        <translation>  Kanali            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>

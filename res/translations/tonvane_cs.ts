@@ -571,7 +571,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanály              </translation>
+        <translation>  Kanály          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formát             APE</translation>
+        <translation>  Formát          APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Formát            FLAC</translation>
+        <translation>  Formát          FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Datový tok             </translation>
+        <translation>  Datový tok      </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Vzorkování        </translation>
+        <translation>  Vzorkování      </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Formát            MPEG-4 AAC LC</translation>
+        <translation>  Formát          MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Formát            MPEG-2 AAC</translation>
+        <translation>  Formát          MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Formát            MPEG-4 ALAC</translation>
+        <translation>  Formát          MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Datový tok            </translation>
+        <translation>  Datový tok      </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Režim                 Stereo</translation>
+        <translation>  Režim           Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Režim                 Sdružené stereo</translation>
+        <translation>  Režim           Sdružené stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Režim                 Dva kanály</translation>
+        <translation>  Režim           Dva kanály</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Režim                 Mono</translation>
+        <translation>  Režim           Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Velikost                </translation>
+        <translation>  Velikost        </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Formát            Ogg Vorbis</translation>
+        <translation>  Formát          Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +841,11 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanály               </translation>
+        <translation>  Kanály          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Vzorkování         </translation>
+        <translation>  Vzorkování      </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Formát            PCM</translation>
+        <translation>  Formát          PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bitů na vzorek    8</translation>
+        <translation>  Bitů na vzorek  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bitů na vzorek   16</translation>
+        <translation>  Bitů na vzorek  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bitů na vzorek   24</translation>
+        <translation>  Bitů na vzorek  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bitů na vzorek   32</translation>
+        <translation>  Bitů na vzorek  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanály               1</translation>
+        <translation>  Kanály          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanály               2</translation>
+        <translation>  Kanály          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Formát            PCM IEEE Float</translation>
+        <translation>  Formát          PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

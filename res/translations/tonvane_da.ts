@@ -571,7 +571,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanaler             </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Lydformat          APE</translation>
+        <translation>  Lydformat       APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Lydformat         FLAC</translation>
+        <translation>  Lydformat       FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bithastighed           </translation>
+        <translation>  Bithastighed    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frekvens          </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Lydformat         MPEG-4 AAC LC</translation>
+        <translation>  Lydformat       MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Lydformat         MPEG-2 AAC</translation>
+        <translation>  Lydformat       MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Lydformat         MPEG-4 ALAC</translation>
+        <translation>  Lydformat       MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bithastighed          </translation>
+        <translation>  Bithastighed    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Tilstand              Stereo</translation>
+        <translation>  Tilstand        Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Tilstand              Joint stereo</translation>
+        <translation>  Tilstand        Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Tilstand              Dobbelt kanal</translation>
+        <translation>  Tilstand        Dobbelt kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Tilstand              Mono</translation>
+        <translation>  Tilstand        Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Størrelse               </translation>
+        <translation>  Størrelse       </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Lydformat         Ogg Vorbis</translation>
+        <translation>  Lydformat       Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +841,11 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanaler              </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvens           </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Lydformat         PCM</translation>
+        <translation>  Lydformat       PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bit pr. sample    8</translation>
+        <translation>  Bit pr. sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bit pr. sample   16</translation>
+        <translation>  Bit pr. sample  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bit pr. sample   24</translation>
+        <translation>  Bit pr. sample  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bit pr. sample   32</translation>
+        <translation>  Bit pr. sample  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanaler              1</translation>
+        <translation>  Kanaler         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanaler              2</translation>
+        <translation>  Kanaler         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Lydformat         PCM IEEE Float</translation>
+        <translation>  Lydformat       PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

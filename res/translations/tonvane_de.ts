@@ -571,7 +571,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanäle              </translation>
+        <translation>  Kanäle           </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Audioformat        APE</translation>
+        <translation>  Audioformat      APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Audioformat       FLAC</translation>
+        <translation>  Audioformat      FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Abtastrate        </translation>
+        <translation>  Abtastrate       </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Audioformat       MPEG-4 AAC LC</translation>
+        <translation>  Audioformat      MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Audioformat       MPEG-2 AAC</translation>
+        <translation>  Audioformat      MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Audioformat       MPEG-4 ALAC</translation>
+        <translation>  Audioformat      MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modus                 Stereo</translation>
+        <translation>  Modus            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modus                 Joint Stereo</translation>
+        <translation>  Modus            Joint Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modus                 Zwei Kanäle</translation>
+        <translation>  Modus            Zwei Kanäle</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modus                 Mono</translation>
+        <translation>  Modus            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Größe                   </translation>
+        <translation>  Größe            </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Audioformat       Ogg Vorbis</translation>
+        <translation>  Audioformat      Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits pro Sample </translation>
+        <translation>  Bits pro Sample  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanäle               </translation>
+        <translation>  Kanäle           </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Abtastrate         </translation>
+        <translation>  Abtastrate       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Audioformat       PCM</translation>
+        <translation>  Audioformat      PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +871,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bits pro Sample   8</translation>
+        <translation>  Bits pro Sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +919,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanäle               1</translation>
+        <translation>  Kanäle           1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanäle               2</translation>
+        <translation>  Kanäle           2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Audioformat       PCM IEEE Float</translation>
+        <translation>  Audioformat      PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

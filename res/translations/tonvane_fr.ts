@@ -571,7 +571,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canaux              </translation>
+        <translation>  Canaux            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format audio       APE</translation>
+        <translation>  Format audio      APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +691,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Débit                  </translation>
+        <translation>  Débit             </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +731,23 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Débit                 </translation>
+        <translation>  Débit             </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Mode                  Stéréo</translation>
+        <translation>  Mode              Stéréo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Mode                  Stéréo conjointe</translation>
+        <translation>  Mode              Stéréo conjointe</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Mode                  Double canal</translation>
+        <translation>  Mode              Double canal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Mode                  Mono</translation>
+        <translation>  Mode              Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Taille                  </translation>
+        <translation>  Taille            </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +837,15 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits/échantillon </translation>
+        <translation>  Bits/échantillon  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canaux               </translation>
+        <translation>  Canaux            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Fréquence          </translation>
+        <translation>  Fréquence         </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +875,15 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bits/échantillon 16</translation>
+        <translation>  Bits/échantillon  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bits/échantillon 24</translation>
+        <translation>  Bits/échantillon  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bits/échantillon 32</translation>
+        <translation>  Bits/échantillon  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +919,11 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canaux               1</translation>
+        <translation>  Canaux            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canaux               2</translation>
+        <translation>  Canaux            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>

@@ -571,7 +571,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canali              </translation>
+        <translation>  Canali            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formato audio      APE</translation>
+        <translation>  Formato audio     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +691,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate           </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +731,23 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate           </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modalità              Stereo</translation>
+        <translation>  Modalità          Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modalità              Joint stereo</translation>
+        <translation>  Modalità          Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modalità              Doppio canale</translation>
+        <translation>  Modalità          Doppio canale</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modalità              Mono</translation>
+        <translation>  Modalità          Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Dimensione              </translation>
+        <translation>  Dimensione        </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +837,15 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bit per campione </translation>
+        <translation>  Bit per campione  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canali               </translation>
+        <translation>  Canali            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequenza          </translation>
+        <translation>  Frequenza         </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +875,15 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bit per campione 16</translation>
+        <translation>  Bit per campione  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bit per campione 24</translation>
+        <translation>  Bit per campione  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bit per campione 32</translation>
+        <translation>  Bit per campione  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +919,11 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canali               1</translation>
+        <translation>  Canali            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canali               2</translation>
+        <translation>  Canali            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Sorry, but the peak test is not offered for MP3 files; use the average test.</source>
-        <translation>죄송합니다. MP3 파일에는 최대 레벨 테스트가 없습니다. 평균 레벨 테스트를 사용하십시오.</translation>
+        <translation>죄송합니다. MP3 파일에는 피크 레벨 테스트가 없습니다. 평균 레벨 테스트를 사용하십시오.</translation>
     </message>
     <message>
         <source>Sorry, the test is stopped because the file was not opened for it.</source>
@@ -203,7 +203,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Measures how loud audio files are: the peak level and the average level against the 89 dB reference.</source>
-        <translation>오디오 파일의 음량을 측정합니다: 최대 레벨과 89 dB 기준에 대한 평균 레벨.</translation>
+        <translation>오디오 파일의 음량을 측정합니다: 피크 레벨과 89 dB 기준에 대한 평균 레벨.</translation>
     </message>
     <message>
         <source>E-mail:</source>
@@ -411,7 +411,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Test Peak Level</source>
-        <translation>최대 레벨 테스트</translation>
+        <translation>피크 레벨 테스트</translation>
     </message>
     <message>
         <source>Test Average Level</source>
@@ -571,7 +571,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  채널                </translation>
+        <translation>  채널         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  오디오 형식        APE</translation>
+        <translation>  오디오 형식  APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  오디오 형식       FLAC</translation>
+        <translation>  오디오 형식  FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  비트 전송률            </translation>
+        <translation>  비트 전송률  </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  샘플링 속도       </translation>
+        <translation>  샘플링 속도  </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  오디오 형식       MPEG-4 AAC LC</translation>
+        <translation>  오디오 형식  MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  오디오 형식       MPEG-2 AAC</translation>
+        <translation>  오디오 형식  MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  오디오 형식       MPEG-4 ALAC</translation>
+        <translation>  오디오 형식  MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  비트 전송률           </translation>
+        <translation>  비트 전송률  </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  모드                  스테레오</translation>
+        <translation>  모드         스테레오</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  모드                  조인트 스테레오</translation>
+        <translation>  모드         조인트 스테레오</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  모드                  듀얼 채널</translation>
+        <translation>  모드         듀얼 채널</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  모드                  모노</translation>
+        <translation>  모드         모노</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  크기                    </translation>
+        <translation>  크기         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  오디오 형식       Ogg Vorbis</translation>
+        <translation>  오디오 형식  Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  샘플당 비트     </translation>
+        <translation>  샘플당 비트  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  채널                 </translation>
+        <translation>  채널         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  샘플링 속도        </translation>
+        <translation>  샘플링 속도  </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  오디오 형식       PCM</translation>
+        <translation>  오디오 형식  PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  샘플당 비트       8</translation>
+        <translation>  샘플당 비트  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  샘플당 비트      16</translation>
+        <translation>  샘플당 비트  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  샘플당 비트      24</translation>
+        <translation>  샘플당 비트  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  샘플당 비트      32</translation>
+        <translation>  샘플당 비트  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  채널                 1</translation>
+        <translation>  채널         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  채널                 2</translation>
+        <translation>  채널         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  오디오 형식       PCM IEEE Float</translation>
+        <translation>  오디오 형식  PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -959,7 +959,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>(Peak Level)</source>
-        <translation>(최대 레벨)</translation>
+        <translation>(피크 레벨)</translation>
     </message>
     <message>
         <source>(Average Level)</source>

@@ -571,7 +571,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanalen             </translation>
+        <translation>  Kanalen          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Audioformaat       APE</translation>
+        <translation>  Audioformaat     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Audioformaat      FLAC</translation>
+        <translation>  Audioformaat     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frequentie        </translation>
+        <translation>  Frequentie       </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Audioformaat      MPEG-4 AAC LC</translation>
+        <translation>  Audioformaat     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Audioformaat      MPEG-2 AAC</translation>
+        <translation>  Audioformaat     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Audioformaat      MPEG-4 ALAC</translation>
+        <translation>  Audioformaat     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modus                 Stereo</translation>
+        <translation>  Modus            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modus                 Joint stereo</translation>
+        <translation>  Modus            Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modus                 Dubbel kanaal</translation>
+        <translation>  Modus            Dubbel kanaal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modus                 Mono</translation>
+        <translation>  Modus            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Grootte                 </translation>
+        <translation>  Grootte          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Audioformaat      Ogg Vorbis</translation>
+        <translation>  Audioformaat     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits per sample </translation>
+        <translation>  Bits per sample  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanalen              </translation>
+        <translation>  Kanalen          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequentie         </translation>
+        <translation>  Frequentie       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Audioformaat      PCM</translation>
+        <translation>  Audioformaat     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +871,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bits per sample   8</translation>
+        <translation>  Bits per sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +919,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanalen              1</translation>
+        <translation>  Kanalen          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanalen              2</translation>
+        <translation>  Kanalen          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Audioformaat      PCM IEEE Float</translation>
+        <translation>  Audioformaat     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

@@ -571,7 +571,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanały              </translation>
+        <translation>  Kanały          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format             APE</translation>
+        <translation>  Format          APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Format            FLAC</translation>
+        <translation>  Format          FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Przepływność           </translation>
+        <translation>  Przepływność    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Częstotliwość     </translation>
+        <translation>  Częstotliwość   </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Format            MPEG-4 AAC LC</translation>
+        <translation>  Format          MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Format            MPEG-2 AAC</translation>
+        <translation>  Format          MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Format            MPEG-4 ALAC</translation>
+        <translation>  Format          MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Przepływność          </translation>
+        <translation>  Przepływność    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Tryb                  Stereo</translation>
+        <translation>  Tryb            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Tryb                  Joint stereo</translation>
+        <translation>  Tryb            Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Tryb                  Dwa kanały</translation>
+        <translation>  Tryb            Dwa kanały</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Tryb                  Mono</translation>
+        <translation>  Tryb            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Rozmiar                 </translation>
+        <translation>  Rozmiar         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Format            Ogg Vorbis</translation>
+        <translation>  Format          Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +841,11 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanały               </translation>
+        <translation>  Kanały          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Częstotliwość      </translation>
+        <translation>  Częstotliwość   </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Format            PCM</translation>
+        <translation>  Format          PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bity na próbkę    8</translation>
+        <translation>  Bity na próbkę  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bity na próbkę   16</translation>
+        <translation>  Bity na próbkę  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bity na próbkę   24</translation>
+        <translation>  Bity na próbkę  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bity na próbkę   32</translation>
+        <translation>  Bity na próbkę  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanały               1</translation>
+        <translation>  Kanały          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanały               2</translation>
+        <translation>  Kanały          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Format            PCM IEEE Float</translation>
+        <translation>  Format          PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

@@ -571,7 +571,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canais              </translation>
+        <translation>  Canais            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formato            APE</translation>
+        <translation>  Formato           APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +691,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Taxa de bits           </translation>
+        <translation>  Taxa de bits      </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +731,23 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Taxa de bits          </translation>
+        <translation>  Taxa de bits      </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modo                  Estéreo</translation>
+        <translation>  Modo              Estéreo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modo                  Estéreo conjunto</translation>
+        <translation>  Modo              Estéreo conjunto</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modo                  Canal duplo</translation>
+        <translation>  Modo              Canal duplo</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modo                  Mono</translation>
+        <translation>  Modo              Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Tamanho                 </translation>
+        <translation>  Tamanho           </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +837,15 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits por amostra </translation>
+        <translation>  Bits por amostra  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canais               </translation>
+        <translation>  Canais            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequência         </translation>
+        <translation>  Frequência        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +875,15 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bits por amostra 16</translation>
+        <translation>  Bits por amostra  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bits por amostra 24</translation>
+        <translation>  Bits por amostra  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bits por amostra 32</translation>
+        <translation>  Bits por amostra  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +919,11 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canais               1</translation>
+        <translation>  Canais            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canais               2</translation>
+        <translation>  Canais            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>

@@ -571,7 +571,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Каналы              </translation>
+        <translation>  Каналы         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Аудиоформат        APE</translation>
+        <translation>  Аудиоформат    APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Аудиоформат       FLAC</translation>
+        <translation>  Аудиоформат    FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Битрейт                </translation>
+        <translation>  Битрейт        </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Частота           </translation>
+        <translation>  Частота        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Аудиоформат       MPEG-4 AAC LC</translation>
+        <translation>  Аудиоформат    MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Аудиоформат       MPEG-2 AAC</translation>
+        <translation>  Аудиоформат    MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Аудиоформат       MPEG-4 ALAC</translation>
+        <translation>  Аудиоформат    MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Битрейт               </translation>
+        <translation>  Битрейт        </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Режим                 Стерео</translation>
+        <translation>  Режим          Стерео</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Режим                 Joint Stereo</translation>
+        <translation>  Режим          Joint Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Режим                 Два канала</translation>
+        <translation>  Режим          Два канала</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Режим                 Моно</translation>
+        <translation>  Режим          Моно</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Размер                  </translation>
+        <translation>  Размер         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Аудиоформат       Ogg Vorbis</translation>
+        <translation>  Аудиоформат    Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Бит на отсчёт   </translation>
+        <translation>  Бит на отсчёт  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Каналы               </translation>
+        <translation>  Каналы         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Частота            </translation>
+        <translation>  Частота        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Аудиоформат       PCM</translation>
+        <translation>  Аудиоформат    PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Бит на отсчёт     8</translation>
+        <translation>  Бит на отсчёт  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Бит на отсчёт    16</translation>
+        <translation>  Бит на отсчёт  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Бит на отсчёт    24</translation>
+        <translation>  Бит на отсчёт  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Бит на отсчёт    32</translation>
+        <translation>  Бит на отсчёт  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Каналы               1</translation>
+        <translation>  Каналы         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Каналы               2</translation>
+        <translation>  Каналы         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Аудиоформат       PCM IEEE Float</translation>
+        <translation>  Аудиоформат    PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

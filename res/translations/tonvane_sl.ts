@@ -571,7 +571,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanali              </translation>
+        <translation>  Kanali           </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Zvočni zapis       APE</translation>
+        <translation>  Zvočni zapis     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Zvočni zapis      FLAC</translation>
+        <translation>  Zvočni zapis     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitna hitrost          </translation>
+        <translation>  Bitna hitrost    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frekvenca         </translation>
+        <translation>  Frekvenca        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Zvočni zapis      MPEG-4 AAC LC</translation>
+        <translation>  Zvočni zapis     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Zvočni zapis      MPEG-2 AAC</translation>
+        <translation>  Zvočni zapis     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Zvočni zapis      MPEG-4 ALAC</translation>
+        <translation>  Zvočni zapis     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitna hitrost         </translation>
+        <translation>  Bitna hitrost    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Način                 Stereo</translation>
+        <translation>  Način            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Način                 Združeni stereo</translation>
+        <translation>  Način            Združeni stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Način                 Dvojni kanal</translation>
+        <translation>  Način            Dvojni kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Način                 Mono</translation>
+        <translation>  Način            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Velikost                </translation>
+        <translation>  Velikost         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Zvočni zapis      Ogg Vorbis</translation>
+        <translation>  Zvočni zapis     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bitov na vzorec </translation>
+        <translation>  Bitov na vzorec  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanali               </translation>
+        <translation>  Kanali           </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvenca          </translation>
+        <translation>  Frekvenca        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Zvočni zapis      PCM</translation>
+        <translation>  Zvočni zapis     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +871,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bitov na vzorec   8</translation>
+        <translation>  Bitov na vzorec  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +919,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanali               1</translation>
+        <translation>  Kanali           1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanali               2</translation>
+        <translation>  Kanali           2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Zvočni zapis      PCM IEEE Float</translation>
+        <translation>  Zvočni zapis     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>

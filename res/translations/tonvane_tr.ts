@@ -219,7 +219,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source> Bits on Readout</source>
-        <translation> Örnek başına bit</translation>
+        <translation> Bit derinliği</translation>
     </message>
     <message>
         <source> Channels</source>
@@ -571,7 +571,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanallar            </translation>
+        <translation>  Kanallar       </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +615,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Ses biçimi         APE</translation>
+        <translation>  Ses biçimi     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +635,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Ses biçimi        FLAC</translation>
+        <translation>  Ses biçimi     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +691,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bit hızı               </translation>
+        <translation>  Bit hızı       </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +699,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Örnekleme         </translation>
+        <translation>  Örnekleme      </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +707,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Ses biçimi        MPEG-4 AAC LC</translation>
+        <translation>  Ses biçimi     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Ses biçimi        MPEG-2 AAC</translation>
+        <translation>  Ses biçimi     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Ses biçimi        MPEG-4 ALAC</translation>
+        <translation>  Ses biçimi     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +731,23 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bit hızı              </translation>
+        <translation>  Bit hızı       </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Kip                   Stereo</translation>
+        <translation>  Kip            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Kip                   Ortak stereo</translation>
+        <translation>  Kip            Ortak stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Kip                   Çift kanal</translation>
+        <translation>  Kip            Çift kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Kip                   Mono</translation>
+        <translation>  Kip            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +775,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Boyut                   </translation>
+        <translation>  Boyut          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +787,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Ses biçimi        Ogg Vorbis</translation>
+        <translation>  Ses biçimi     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +837,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Örnek başına bit </translation>
+        <translation>  Bit derinliği  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanallar             </translation>
+        <translation>  Kanallar       </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekans            </translation>
+        <translation>  Frekans        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +853,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Ses biçimi        PCM</translation>
+        <translation>  Ses biçimi     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +871,19 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Örnek başına bit  8</translation>
+        <translation>  Bit derinliği  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Örnek başına bit 16</translation>
+        <translation>  Bit derinliği  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Örnek başına bit 24</translation>
+        <translation>  Bit derinliği  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Örnek başına bit 32</translation>
+        <translation>  Bit derinliği  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +919,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanallar             1</translation>
+        <translation>  Kanallar       1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanallar             2</translation>
+        <translation>  Kanallar       2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Ses biçimi        PCM IEEE Float</translation>
+        <translation>  Ses biçimi     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
