@@ -1,9 +1,9 @@
 #include "player/Beep.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
+#include "app/DataPaths.h"
 #include "player/SoundSystem.h"
 
 namespace {
@@ -13,19 +13,9 @@ snd::Sound* g_beepSound = nullptr;
 }  // namespace
 
 QString FindNotifySound() {
-  QStringList folders = {QDir::currentPath()};
-  if (QCoreApplication::instance() != nullptr) {
-    const QString app = QCoreApplication::applicationDirPath();
-    folders << app << app + QStringLiteral("/../share/tonvane");
-  }
-#ifdef TONVANE_BUILD_DIR
-  folders << QStringLiteral(TONVANE_BUILD_DIR);
-#endif
-  for (const QString& folder : folders) {
-    const QFileInfo fi(QDir(folder).filePath(kNotifyName));
-    if (fi.isFile()) return fi.absoluteFilePath();
-  }
-  return {};
+  const QFileInfo own(QDir::current().filePath(kNotifyName));
+  if (own.isFile()) return own.absoluteFilePath();
+  return tonvane::FindDataFile(kNotifyName);
 }
 
 void PlayNotify() {

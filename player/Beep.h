@@ -3,8 +3,8 @@
 // program ships, played through the process's sound system without waiting for it.
 #include <QString>
 
-// Where the sound is found: the working folder, beside the program, the build tree, the
-// installed data folder. Empty when none has it.
+// Where the sound is found: the working folder, else the program's data folders
+// (app/DataPaths.h). Empty when none has it.
 QString FindNotifySound();
 // Starts the sound; a second call cuts the first short. Silent when there is no file or no
 // sound device.
