@@ -5,6 +5,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "app/DataPaths.h"
 #include "app/Settings.h"
 #include "app/Text.h"
 
@@ -52,18 +53,7 @@ QString RestartText() {
 
 QStringList DataFolders(const QString& kind) {
   QStringList out;
-  // TONVANE_DATA_DIR names a tree laid out like the build tree (tests, a moved build).
-  const QString forced = qEnvironmentVariable("TONVANE_DATA_DIR");
-  if (!forced.isEmpty()) out << QDir(forced).filePath(kind) << forced;
-  const QString app = QCoreApplication::applicationDirPath();
-  if (!app.isEmpty()) {
-    // The build tree keeps data beside the program; an installed program has it under
-    // ../share/tonvane.
-    out << QDir(app).filePath(kind) << app
-        << QDir::cleanPath(app + QStringLiteral("/../share/tonvane/") + kind);
-  }
-  out << QStringLiteral("/usr/share/tonvane/") + kind;
-  out.removeDuplicates();
+  for (const QString& dir : tonvane::DataDirs()) out << QDir(dir).filePath(kind);
   return out;
 }
 

@@ -37,9 +37,8 @@ void StoreLanguageCode(const QString& code);
 // What the person is told after choosing a language.
 QString RestartText();
 
-// Folders that may hold data files of a kind ("translations", "help"): beside the program
-// (the build tree) and the installed share/tonvane folder; first a tree named by
-// TONVANE_DATA_DIR.
+// The folder of a kind ("translations", "help") in each data folder, best first
+// (app/DataPaths.h says where those are).
 QStringList DataFolders(const QString& kind);
 
 // The help index to open for an interface language: help/<code>/index.html where that page

@@ -181,8 +181,9 @@ int BatchAdder::AddFolder(const QString& folder, bool recursive) {
     if (processing) processing(dir);
     const DirEntries entries = ReadFolder(dir);
     if (entries.error) {
-      Report(dir, Tonvane::tr("Sorry, but ") + Tonvane::tr("the folder ") + dir + Tonvane::tr(" cannot be opened") +
-                      ". " + SystemErrorText(ErrorCodeFromErrno(entries.error, dir)),
+      Report(dir,
+             Tonvane::tr("Sorry, but the folder ") + dir + Tonvane::tr(" cannot be read: ") +
+                 QString::fromLocal8Bit(std::strerror(entries.error)) + ".",
              QStringLiteral("notAgainFolder"));
       continue;
     }

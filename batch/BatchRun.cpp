@@ -1,6 +1,7 @@
 #include "batch/BatchRun.h"
 
 #include <chrono>
+#include <cmath>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -11,6 +12,7 @@
 #include "batch/BatchControl.h"
 #include "batch/BatchList.h"
 #include "batch/RowTexts.h"
+#include "formats/Kinds.h"
 #include "log/TestLog.h"
 
 namespace {
@@ -292,4 +294,36 @@ BatchRunSummary BatchRunner::Run() {
     view.Progress(100);
   view.Finished(summary);
   return summary;
+}
+
+QString BatchEstimateText(double secondsLeft) {
+  // Whole seconds, half a second up; then hours and minutes of that.
+  const double rem = std::max(0.0, secondsLeft);
+  const long total = long(rem - std::floor(rem) >= 0.5 ? std::ceil(rem) : std::floor(rem));
+  const long hours = total / 3600, minutes = total / 60 % 60, seconds = total % 60;
+  QString t;
+  if (hours > 0) t += QString::number(hours) + Tonvane::tr(" hr ");
+  if (minutes > 0) t += QString::number(minutes) + Tonvane::tr(" min ");
+  return t + QString::number(seconds) + Tonvane::tr(" sec");
+}
+
+QString BatchCountText(int files) {
+  return QString::number(files) + (files == 1 ? Tonvane::tr(" file") : Tonvane::tr(" files"));
+}
+
+QString BatchTestedText(int tested, int total) {
+  return QString::number(tested) + Tonvane::tr(" from ") + BatchCountText(total);
+}
+
+uint32_t BatchTestedColor(int tested, int total) { return tested >= total ? 0xcb1e1e : 0x180acd; }
+bool BatchTestedBlinks(int tested, int total) { return tested < total; }
+QString BatchBarText(int percent) { return QString::number(percent) + "%" + Tonvane::tr(" Completed"); }
+QString BatchTitleText(int percent) { return QString::number(percent) + "% " + Tonvane::tr("Batch Test..."); }
+QString BatchRunningText() { return Tonvane::tr("Please, wait the batch test is fulfilling"); }
+QString BatchPausedText() { return Tonvane::tr("Test is suspended"); }
+QString BatchCancelledText() { return Tonvane::tr("Test is cancelled"); }
+
+QString BatchNoFilesText(int batchKind, const QString& folder) {
+  const KindInfo* k = KindInfoOf(batchKind);
+  return Tonvane::tr("Sorry, but the open folder ") + folder + (k ? Tonvane::tr(k->noFilesText) : QString());
 }

@@ -124,3 +124,18 @@ class BatchRunner {
   BatchMeasureFn m_measure;
   bool m_parallel = false;
 };
+
+// Texts of the progress dialog, as it shows them.
+QString BatchEstimateText(double secondsLeft);  // "1 hr 2 min 3 sec", "45 sec"
+QString BatchCountText(int files);              // "12 files", "1 file"
+QString BatchTestedText(int tested, int total); // "3 from 5 files"
+// The colour of that text: 0xcb1e1e when every file was tested, else 0x180acd (it blinks).
+uint32_t BatchTestedColor(int tested, int total);
+bool BatchTestedBlinks(int tested, int total);
+QString BatchBarText(int percent);              // "42% Completed"
+QString BatchTitleText(int percent);            // "42% Batch Test..."
+QString BatchRunningText();                     // "Please, wait the batch test is fulfilling"
+QString BatchPausedText();                      // "Test is suspended"
+QString BatchCancelledText();                   // "Test is cancelled"
+// "Sorry, but the open folder <folder> does not contain any Mp3 files." and its siblings.
+QString BatchNoFilesText(int batchKind, const QString& folder);

@@ -13,11 +13,11 @@ struct CliOptions {
                                         "verdict. MP3 files always take this test."};
   QCommandLineOption db{"db", "Show levels in dB instead of percent."};
   QCommandLineOption info{"info", "Show each file's properties only (the default without a test)."};
-  QCommandLineOption recursive{{"r", "recursive"}, "Take the files of every folder below a FOLDER argument too, "
+  QCommandLineOption recursive{{"r", "recursive"}, "Take the files of every folder below a folder argument too, "
                                                    "not only of the folder itself."};
-  QCommandLineOption kind{"kind", "Take only the files of one kind from folders and playlists: mp3 (with WAV "
-                                  "files that hold MP3 audio), wav, flac, ogg, ape or mp4 (AAC and ALAC). "
-                                  "Without it every supported file is taken and measured by its own kind.",
+  QCommandLineOption kind{"kind", "Take only the files of one kind: mp3 (with WAV files that hold MP3 audio), "
+                                  "wav, flac, ogg, ape or mp4 (AAC and ALAC); a named file of another kind is "
+                                  "refused. Without it every supported file is taken and measured by its own kind.",
                           "KIND"};
   QCommandLineOption jobs{"jobs", "Measure N files at a time (default: the number of processor cores). The "
                                   "results and the test log are the same for any N.",

@@ -313,7 +313,7 @@ void PlayerEngine::OnVolumeSlider(int pos) {
   Changed();
 }
 
-void PlayerEngine::SetSeekPos(int pos) {
+void PlayerEngine::SetSeekPosition(int pos) {
   m_seekPos = pos;
   m_view.seekPos = pos;
 }

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "app/Session.h"
+#include "player/SeekHost.h"
 #include "player/SoundSystem.h"
 
 // 1 once the process's sound system has been created and initialised (whatever init said).
@@ -54,10 +55,10 @@ struct PlayerView {
   QString position[3];        // minutes, seconds, hundredths; empty when cleared
 };
 
-class PlayerEngine {
+class PlayerEngine : public ISeekHost {
  public:
   PlayerEngine(Session& s, IPlayerTimers& timers);
-  ~PlayerEngine();
+  ~PlayerEngine() override;
 
   void PlayPause();
   // Stops the channel but keeps the sound for a quick restart.
@@ -82,8 +83,13 @@ class PlayerEngine {
   // Called when a track has ended and the transport is reset (the play order decides).
   std::function<void()> onTrackEnd;
 
-  // Seek bar side: the bar sets the position itself and tells the engine.
-  void SetSeekPos(int pos);
+  // The seek bar's side: it moves the channel itself and tells the engine.
+  snd::Channel* SeekChannel() override { return m_fmodChannel; }
+  void SetSeekTicking(int ticking) override { m_seekTicking = ticking; }
+  void SetSeekEnabled(int enabled) override { m_seekEnabled = enabled; }
+  void SetSeekPosition(int pos) override;
+  bool StopEnabled() override { return m_view.stopEnabled; }
+  void StopFromSeekBar() override { Stop(); }
 
   // State, by the names of the main window's members.
   snd::System* m_fmodSystem = nullptr;

@@ -32,6 +32,7 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/widgets/ShellMenus.h"
 #include "app/HeadlessTest.h"
 #include "formats/OpenPipeline.h"
@@ -187,22 +188,21 @@ void CBrenlowv10Dlg::BuildToolBar() {
   m_toolBar->setObjectName("toolBar");
   m_toolBar->setMovable(false);
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  QStyle* st = style();
   struct Item {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* caption;
     const char* tip;
   };
   const Item items[] = {
-      {757, QStyle::SP_DialogOpenButton, QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
-      {309, QStyle::SP_FileDialogListView, QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
-      {756, QStyle::SP_DialogHelpButton, QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
-      {304, QStyle::SP_DialogCloseButton, QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
+      {757, "document-open", QT_TRANSLATE_NOOP("Tonvane", "Open"), QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
+      {309, "tonvane-batch", QT_TRANSLATE_NOOP("Tonvane", "Batch"), QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
+      {756, "help-contents", QT_TRANSLATE_NOOP("Tonvane", "Help"), QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
+      {304, "application-exit", QT_TRANSLATE_NOOP("Tonvane", "Exit"), QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == 309 || it.id == 756) m_toolBar->addSeparator();
-    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), Tonvane::tr(it.caption));
+    QAction* a = m_toolBar->addAction(tonvane::ThemedIcon(it.icon), Tonvane::tr(it.caption));
     a->setToolTip(Tonvane::tr(it.tip));
     a->setData(it.id);
     a->setObjectName(QStringLiteral("tool%1").arg(it.id));
@@ -335,25 +335,24 @@ void CBrenlowv10Dlg::BuildCentral() {
   m_seekBar->setEnabled(false);
   playerLayout->addWidget(m_seekBar);
   auto* transport = new QHBoxLayout;
-  QStyle* st = style();
   struct Button {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* tip;
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
-      {kIdStop, QStyle::SP_MediaStop, QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
-      {kIdShuffle, QStyle::SP_BrowserReload, QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
-      {kIdRepeat, QStyle::SP_ArrowBack, QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
-      {kIdNext, QStyle::SP_MediaSkipForward, QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
+      {kIdPlay, "media-playback-start", QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, "media-playback-stop", QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, "media-playlist-shuffle", QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, "media-playlist-repeat", QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, "audio-volume-muted", QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, "media-skip-backward", QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, "media-skip-forward", QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
-    tb->setIcon(st->standardIcon(b.icon));
+    tb->setIcon(tonvane::ThemedIcon(b.icon));
     tb->setToolTip(Tonvane::tr(b.tip));
     tb->setObjectName(QStringLiteral("transport%1").arg(b.id));
     tb->setIconSize(QSize(22, 22));

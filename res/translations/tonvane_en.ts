@@ -1106,7 +1106,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the folder </source>
+        <source>Sorry, but the folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1231,6 +1235,46 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -23,3 +23,6 @@ flac -s -f -o long.flac long.wav
 sox -R -n -b 16 -c 2 -r 44100 empty.wav trim 0 0
 head -c 4000 /dev/zero | tr '\0' 'x' > garbage.wav
 head -c 30 tone_1k.wav > cut_header.wav
+# A FLAC file with 20 kB of its middle overwritten: damaged frames to skip.
+cp tone_1k.flac damaged.flac
+dd if=/dev/zero of=damaged.flac bs=1 seek=30000 count=20000 conv=notrunc status=none

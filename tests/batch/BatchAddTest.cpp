@@ -113,7 +113,7 @@ TEST_F(BatchAddTest, FolderWalk) {
   QFile::setPermissions(t.Path("top/locked"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
   if (!root) {
     ASSERT_EQ(add.Problems().size(), 1u);
-    EXPECT_TRUE(add.Problems()[0].text.startsWith("Sorry, but the folder " + t.Path("top/locked") + " cannot be opened"));
+    EXPECT_TRUE(add.Problems()[0].text.startsWith("Sorry, but the folder " + t.Path("top/locked") + " cannot be read: "));
   }
   // One kind: the FLAC batch takes only the FLAC files.
   BatchList flac(kKindFlac);

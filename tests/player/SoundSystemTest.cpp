@@ -1,10 +1,13 @@
 // The sound system over a manual output: levels, pause, mute, seeks, ends, bad files.
 #include <QDataStream>
 #include <QFile>
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <chrono>
 #include <thread>
 
+#include "player/Beep.h"
 #include "support/TestSupport.h"
 #include "player/SoundTestSupport.h"
 
@@ -15,7 +18,7 @@ namespace {
 
 // A 16-bit stereo 44.1 kHz file whose left channel rises evenly from -1 to +1 over its
 // length, so each sample's value says where in the file it stands.
-QString WriteRamp(const QString& path, int seconds) {
+QString WriteRamp(const QString& path, int seconds, quint32 rate = 44100) {
   const int frames = 44100 * seconds;
   QByteArray data;
   data.reserve(frames * 4);
@@ -32,7 +35,7 @@ QString WriteRamp(const QString& path, int seconds) {
   s.writeRawData("RIFF", 4);
   s << quint32(36 + data.size());
   s.writeRawData("WAVEfmt ", 8);
-  s << quint32(16) << quint16(1) << quint16(2) << quint32(44100) << quint32(44100 * 4) << quint16(4) << quint16(16);
+  s << quint32(16) << quint16(1) << quint16(2) << quint32(rate) << quint32(rate * 4) << quint16(4) << quint16(16);
   s.writeRawData("data", 4);
   s << quint32(data.size());
   file.append(data);
@@ -220,6 +223,15 @@ TEST_F(SoundSystemTest, BadFilesAreRefused) {
     EXPECT_EQ(sys.system->createStream(Fixture(c.name), 0, nullptr, &sound), c.expected);
     EXPECT_EQ(sound, nullptr);
   }
+  // A rate no device plays.
+  snd::Sound* sound = nullptr;
+  EXPECT_EQ(sys.system->createStream(WriteRamp(dir.filePath("fast.wav"), 1, 2000000), 0, nullptr, &sound), snd::ERR_FORMAT);
+  // Damaged frames in the middle are skipped; the sound plays to its end.
+  snd::Channel* ch = Play(Open(Fixture("player/damaged.flac")));
+  sys.Pull(2500);
+  bool playing = true;
+  ch->isPlaying(&playing);
+  EXPECT_FALSE(playing);
   EXPECT_EQ(snd::ErrorString(snd::ERR_FORMAT), "Unsupported file or audio format. ");
   EXPECT_EQ(snd::ErrorString(96), "Unknown error.");
 }
@@ -262,6 +274,27 @@ TEST(SoundSystemSdl, DummyDriverPlaysToTheEnd) {
   EXPECT_FALSE(playing);
   EXPECT_EQ(ms, 0u);  // an ended channel reads no position
   system->release();
+}
+
+}  // namespace
+
+namespace {
+
+// The end-of-test sound comes from the working folder first, else the one the build made,
+// and plays through the shared system.
+TEST(Beep, NotifyFromTheWorkingFolderFirst) {
+  ManualSystem sys;
+  QTemporaryDir dir;
+  const QString before = QDir::currentPath();
+  ASSERT_TRUE(QDir::setCurrent(dir.path()));
+  EXPECT_TRUE(FindNotifySound().endsWith("/notify.wav"));
+  EXPECT_NE(FindNotifySound(), dir.filePath("notify.wav"));
+  ASSERT_TRUE(QFile::copy(Fixture("player/tone_1k.wav"), dir.filePath("notify.wav")));
+  EXPECT_EQ(FindNotifySound(), QFileInfo(dir.filePath("notify.wav")).absoluteFilePath());
+  PlayNotify();
+  EXPECT_NEAR(Peak(sys.Pull(200), 0), 0.5f, 0.005f);
+  ReleaseNotify();
+  QDir::setCurrent(before);
 }
 
 }  // namespace

@@ -8,6 +8,15 @@
 #include "app/Globals.h"
 #include "formats/WorkFile.h"
 
+namespace {
+// Test programs live in tests/ of the build tree, one folder below the data files that the
+// build puts beside the programs (translations/, help/, notify.wav).
+const bool kDataDirSet = [] {
+  if (qEnvironmentVariableIsEmpty("TONVANE_DATA_DIR")) qputenv("TONVANE_DATA_DIR", TONVANE_BUILD_DIR);
+  return true;
+}();
+}  // namespace
+
 namespace testing_support {
 
 QString Fixture(const QString& name) { return QStringLiteral(TONVANE_FIXTURES) + "/" + name; }

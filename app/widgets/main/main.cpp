@@ -14,6 +14,7 @@ extern "C" {
 #include "app/Themes.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
 #include "app/widgets/ShellMenus.h"
 
@@ -22,6 +23,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setOrganizationName(Settings::Organization());
   QCoreApplication::setApplicationName(QStringLiteral("Tonvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
+  // Ties the windows to tonvane.desktop (its icon and name in the panel, on Wayland too).
+  QGuiApplication::setDesktopFileName(QStringLiteral("tonvane"));
+  QApplication::setWindowIcon(tonvane::AppIcon());
   // Numbers in files are written and read in the C locale whatever the interface language.
   std::setlocale(LC_NUMERIC, "C");
   // The decoders report damage through our own messages; FFmpeg's log lines would only
