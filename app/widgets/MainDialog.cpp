@@ -165,6 +165,7 @@ void CBrenlowv10Dlg::BuildMenus() {
   connect(action(kCmdExit), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(kCmdOpen), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
   connect(action(kCmdTest), &QAction::triggered, this, &CBrenlowv10Dlg::OnTest);
+  connect(action(kCmdBatch), &QAction::triggered, this, &CBrenlowv10Dlg::OnBatchProcessor);
   connect(action(kCmdShowPercent), &QAction::triggered, this, [this] { SetShowDb(0); });
   connect(action(kCmdShowDb), &QAction::triggered, this, [this] { SetShowDb(1); });
   connect(action(kCmdUseDatabase), &QAction::triggered, this, [this](bool on) { m_s.m_useDatabase = on ? 1 : 0; });
@@ -210,6 +211,7 @@ void CBrenlowv10Dlg::BuildToolBar() {
   }
   connect(action(304), &QAction::triggered, this, &CBrenlowv10Dlg::OnExit);
   connect(action(757), &QAction::triggered, this, &CBrenlowv10Dlg::OnFileOpen);
+  connect(action(309), &QAction::triggered, this, &CBrenlowv10Dlg::OnBatchProcessor);
   connect(action(756), &QAction::triggered, action(kCmdHelp), &QAction::trigger);
 }
 

@@ -87,6 +87,8 @@ class CBrenlowv10Dlg : public QMainWindow {
   void OpenByName(const QString& path);
   // Leaves the program: deletes the work file and ends the window.
   void Shutdown();
+  // The batch processor: the kind of the open file, or the one chosen; the window is modal.
+  void OnBatchProcessor();
 
  protected:
   void timerEvent(class QTimerEvent* e) override;

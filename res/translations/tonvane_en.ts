@@ -217,23 +217,127 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
+        <source>Please, wait the search files is fulfilling</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Channels</source>
+        <source>Pause</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Frequency</source>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Audio Format</source>
+        <source>Continue</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Size</source>
+        <source>Processing: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -241,7 +345,19 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
+        <source>&amp;Add Files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -249,7 +365,35 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -257,35 +401,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
+        <source>&amp;Playback</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -309,15 +425,203 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mute</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -333,19 +637,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -358,10 +650,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>&amp;About Tonvane...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -385,10 +673,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -401,19 +685,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Property</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -426,10 +698,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Clipping</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Player</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -522,10 +790,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Open      </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1186,10 +1450,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1226,10 +1486,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1255,10 +1511,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> Completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Batch Test...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1323,10 +1575,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>ABR</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
