@@ -4,6 +4,10 @@
 <context>
     <name>Tonvane</name>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -93,7 +97,47 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -114,6 +158,10 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -165,7 +213,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Player</source>
+        <source>Pla&amp;yer</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -297,19 +345,15 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clipping</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -369,47 +413,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
+        <source>Test of the volume level</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>All Files (*.*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Max Level </source>
+        <source>About Tonvane</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -631,11 +639,39 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> MB</source>
+        <source> GB</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> GB</source>
+        <source>All Files (*.*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Files (*.ape)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open      </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -781,6 +817,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Max Level </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the test is stopped as the file </source>
         <translation type="unfinished"></translation>
     </message>
@@ -791,10 +831,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
