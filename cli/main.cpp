@@ -1,38 +1,45 @@
-// tonvane-cli: the tests of Tonvane without a window.
-#include <QCommandLineParser>
+// tonvane-cli: the tests of Tonvane without a window, over files, folders and playlists.
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
+#include <QThread>
 extern "C" {
 #include <libavutil/log.h>
 }
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <clocale>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
 
 #include "app/Globals.h"
 #include "app/HeadlessTest.h"
 #include "app/Session.h"
 #include "app/Settings.h"
+#include "batch/BatchAdd.h"
+#include "batch/BatchControl.h"
+#include "batch/BatchList.h"
+#include "batch/BatchRun.h"
+#include "cli/Usage.h"
+#include "formats/Kinds.h"
 #include "formats/WorkFile.h"
 #include "log/TestLog.h"
 
 namespace {
 
+volatile sig_atomic_t g_interrupted = 0;
+void OnInterrupt(int) { g_interrupted = 1; }
+
 const char* KindName(int kind) {
-  switch (kind) {
-    case kKindWav: return "WAV";
-    case kKindMp3: return "MP3";
-    case kKindFlac: return "FLAC";
-    case kKindOgg: return "Ogg Vorbis";
-    case kKindApe: return "APE";
-    case kKindAac: return "AAC";
-    case kKindAlac: return "ALAC";
-    default: return "";
-  }
+  const KindInfo* k = KindInfoOf(kind);
+  return k ? k->displayName : "";
 }
 
 QJsonValue Num(double v) {
@@ -114,6 +121,159 @@ void PrintTable(QTextStream& out, const HeadlessReport& r) {
   }
 }
 
+// A row of the run as the single-file report the output functions print.
+HeadlessReport ReportOf(const BatchRowOutcome& o, const BatchFileInfo* info, bool showDb) {
+  HeadlessReport r;
+  r.file = o.path;
+  r.ok = o.state != BatchRowOutcome::Failed;
+  r.error = o.error;
+  r.kind = o.kind;
+  r.channels = o.channels;
+  r.bits = o.bits;
+  r.testMode = o.testMode;
+  r.showDb = showDb;
+  r.fromLog = o.state == BatchRowOutcome::FromLog;
+  r.sampleBytesRead = o.sampleBytes;
+  if (info) {
+    r.sampleRate = int(info->sampleRate);
+    r.durationMs = info->durationMs;
+    if (!info->audioFormat.isEmpty()) r.properties << "  Audio Format        " + info->audioFormat;
+    if (info->sampleRate) r.properties << QString("  Sample Rate         %1 Hz").arg(info->sampleRate);
+    if (info->channels) r.properties << QString("  Channels            %1").arg(info->channels);
+    if (info->bits && o.kind != kKindMp3) r.properties << QString("  Bits                %1").arg(info->bits);
+    if (!info->bitRateText.isEmpty()) r.properties << "  Bit Rate           " + info->bitRateText;
+  }
+  if (!r.ok) return r;
+  r.result = o.result;
+  Session s;
+  s.m_sourceKind = o.kind;
+  s.m_testMode = o.testMode;
+  s.m_showDb = showDb;
+  s.m_channels = o.channels;
+  s.m_bits = o.bits ? o.bits : 16;
+  s.m_mpegMode = info ? info->mpegMode : -1;
+  s.m_result = o.result;
+  r.levels = ChannelLevels(s);
+  return r;
+}
+
+// "FileName,Year,...,WavPikNoClippingRight,Status,Error": the log's columns and two more.
+QString CsvCell(const QString& v) {
+  if (!v.contains(',') && !v.contains('"') && !v.contains('\n') && !v.contains('\r')) return v;
+  QString q = v;
+  q.replace('"', "\"\"");
+  return '"' + q + '"';
+}
+
+QString CsvRow(const BatchRowOutcome& o) {
+  QStringList cells{CsvCell(o.path)};
+  struct stat st;
+  if (::stat(QFile::encodeName(o.path).constData(), &st) == 0) {
+    struct tm t;
+    localtime_r(&st.st_mtime, &t);
+    for (int v : {t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec, t.tm_wday + 1})
+      cells << QString::number(v);
+  } else {
+    for (int i = 0; i < 7; ++i) cells << QString();
+  }
+  const LevelResult& v = o.result;
+  for (float f : {v.GainLeft, v.GainRight, v.NoClippingLeft, v.NoClippingRight, v.WavLeft, v.WavRight, v.WavPikLeft,
+                  v.WavPikRight, v.WavPikNoClippingLeft, v.WavPikNoClippingRight})
+    cells << QString::asprintf("%f", double(f));
+  static const char* const states[] = {"tested", "from log", "failed"};
+  cells << states[o.state] << CsvCell(QString(o.error).replace('\n', ' '));
+  return cells.join(',');
+}
+
+QString Clock(double seconds) {
+  const long s = std::lround(std::max(0.0, seconds));
+  return s >= 3600 ? QString::asprintf("%ld:%02ld:%02ld", s / 3600, s / 60 % 60, s % 60)
+                   : QString::asprintf("%ld:%02ld", s / 60, s % 60);
+}
+
+// Prints the rows as they are committed, with the named files that could not be taken at
+// their places, and the progress line on a terminal.
+class CliView : public IBatchRunView {
+ public:
+  CliView(const BatchList& list, QTextStream& out, bool json, bool csv, bool showDb, bool progress)
+      : m_list(list), m_out(out), m_json(json), m_csv(csv), m_showDb(showDb), m_progress(progress) {}
+
+  // A named file that failed before the run, to stand before the row `beforeRow`.
+  struct Refused {
+    int beforeRow;
+    HeadlessReport report;
+  };
+  std::vector<Refused> refused;
+  size_t nextRefused = 0;
+
+  void PrintRefused(int upToRow) {
+    while (nextRefused < refused.size() && refused[nextRefused].beforeRow <= upToRow) {
+      const HeadlessReport& r = refused[nextRefused++].report;
+      BatchRowOutcome o;
+      o.path = r.file;
+      o.error = r.error;
+      Print(r, o);
+    }
+  }
+  void Print(const HeadlessReport& r, const BatchRowOutcome& o) {
+    ClearLine();
+    if (m_json)
+      m_out << QJsonDocument(ToJson(r)).toJson(QJsonDocument::Compact) << "\n";
+    else if (m_csv)
+      m_out << CsvRow(o) << "\n";
+    else
+      PrintTable(m_out, r);
+    m_out.flush();
+  }
+
+  void Count(int n) override { m_count = n; }
+  void FileStarted(int, const QString& path) override {
+    m_current = QFileInfo(path).fileName();
+    Draw();
+  }
+  void Progress(int percent) override {
+    m_percent = percent;
+    Draw();
+  }
+  void Estimate(double seconds) override { m_left = seconds; }
+  void Paused(bool paused) override {
+    m_paused = paused;
+    Draw();
+  }
+  void RowDone(const BatchRowOutcome& o) override {
+    PrintRefused(o.row);
+    Print(ReportOf(o, m_list.Info(o.row), m_showDb), o);
+    ++m_done;
+  }
+  void Finished(const BatchRunSummary&) override { ClearLine(); }
+
+ private:
+  void Draw() {
+    if (!m_progress) return;
+    QString line = QString::asprintf("[%3d%%] %d/%d", m_percent, m_done, m_count);
+    if (m_paused) line += "  paused";
+    else if (m_left >= 0) line += "  " + Clock(m_left) + " left";
+    line += "  " + m_current;
+    if (line.size() > 79) line = line.left(78) + "…";
+    std::fprintf(stderr, "\r\033[K%s", line.toLocal8Bit().constData());
+    std::fflush(stderr);
+    m_drawn = true;
+  }
+  void ClearLine() {
+    if (!m_drawn) return;
+    std::fprintf(stderr, "\r\033[K");
+    std::fflush(stderr);
+    m_drawn = false;
+  }
+  const BatchList& m_list;
+  QTextStream& m_out;
+  bool m_json, m_csv, m_showDb, m_progress;
+  bool m_drawn = false, m_paused = false;
+  int m_count = 0, m_done = 0, m_percent = 0;
+  double m_left = -1;
+  QString m_current;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -127,26 +287,14 @@ int main(int argc, char** argv) {
   av_log_set_level(AV_LOG_QUIET);
 
   QCommandLineParser p;
-  p.setApplicationDescription(
-      "Tonvane measures how loud audio files are: the peak level of each channel, or its "
-      "average level against an 89 dB reference.");
-  p.addHelpOption();
-  p.addVersionOption();
-  QCommandLineOption peak("peak", "Peak test: the largest sample of each channel.");
-  QCommandLineOption average("average", "Average test: loudness against 89 dB, maximum level, clipping.");
-  QCommandLineOption db("db", "Show levels in dB instead of percent.");
-  QCommandLineOption info("info", "Show the file's properties only (the default without a test).");
-  QCommandLineOption json("json", "One JSON object per file and line.");
-  QCommandLineOption noLog("no-log", "Measure without the test log.");
-  QCommandLineOption logFile("log", "Use FILE as the test log.", "FILE");
-  p.addOptions({peak, average, db, info, json, noLog, logFile});
-  p.addPositionalArgument("FILE", "Audio files: WAV, MP3, FLAC, Ogg Vorbis, APE, AAC, ALAC.", "FILE...");
-
+  CliOptions o;
+  SetUpParser(p, o);
   QTextStream err(stderr);
-  if (!p.parse(app.arguments())) {
-    err << p.errorText() << "\n" << "Try 'tonvane-cli --help'.\n";
+  auto usage = [&](const QString& text) {
+    err << "tonvane-cli: " << text << "\nTry 'tonvane-cli --help'.\n";
     return 2;
-  }
+  };
+  if (!p.parse(app.arguments())) return usage(p.errorText());
   if (p.isSet("help")) {
     QTextStream(stdout) << p.helpText();
     return 0;
@@ -155,51 +303,127 @@ int main(int argc, char** argv) {
     QTextStream(stdout) << "tonvane-cli " << TONVANE_VERSION << "\n";
     return 0;
   }
-  const QStringList files = p.positionalArguments();
-  if (files.isEmpty()) {
-    err << "tonvane-cli: no FILE given.\nTry 'tonvane-cli --help'.\n";
-    return 2;
+  const QStringList paths = p.positionalArguments();
+  if (paths.isEmpty()) return usage("no PATH given.");
+  if (p.isSet(o.peak) && p.isSet(o.average)) return usage("choose one of --peak and --average.");
+  if (p.isSet(o.info) && (p.isSet(o.peak) || p.isSet(o.average)))
+    return usage("--info shows properties only; it does not combine with a test.");
+  if (p.isSet(o.json) && p.isSet(o.csv)) return usage("choose one of --json and --csv.");
+  int batchKind = kAnyKind;
+  if (p.isSet(o.kind)) {
+    batchKind = KindOfCliName(p.value(o.kind));
+    if (batchKind < 0) return usage("unknown kind '" + p.value(o.kind) + "'; use mp3, wav, flac, ogg, ape or mp4.");
   }
-  if (p.isSet(peak) && p.isSet(average)) {
-    err << "tonvane-cli: choose one of --peak and --average.\n";
-    return 2;
+  int jobs = QThread::idealThreadCount();
+  if (p.isSet(o.jobs)) {
+    bool ok = false;
+    jobs = p.value(o.jobs).toInt(&ok);
+    if (!ok || jobs < 1 || jobs > 256) return usage("--jobs takes a number from 1 to 256.");
   }
-  if (p.isSet(info) && (p.isSet(peak) || p.isSet(average))) {
-    err << "tonvane-cli: --info shows properties only; it does not combine with a test.\n";
-    return 2;
-  }
+  const int testMode = p.isSet(o.peak) ? 0 : p.isSet(o.average) ? 1 : -1;
+  const bool showDb = p.isSet(o.db);
+  const bool json = p.isSet(o.json), csv = p.isSet(o.csv);
+
+  // Ctrl+C ends the work at the next poll; what is committed stays.
+  struct sigaction sa{};
+  sa.sa_handler = OnInterrupt;
+  sigemptyset(&sa.sa_mask);
+  sigaction(SIGINT, &sa, nullptr);
+  sigaction(SIGTERM, &sa, nullptr);
 
   Session s;
-  RecordingPrompt prompt;
+  StderrPrompt prompt;
   NullPump pump;
   s.m_prompt.SetUi(&prompt);
   s.m_pump = &pump;
   s.LoadSettings();
-
-  HeadlessOptions o;
-  o.testMode = p.isSet(peak) ? 0 : p.isSet(average) ? 1 : -1;
-  o.showDb = p.isSet(db) ? 1 : 0;
-  o.useLog = !p.isSet(noLog);
+  s.m_showDb = showDb;
+  s.m_useDatabase = !p.isSet(o.noLog) && testMode >= 0;
   // The log is settled as at the program's start: created when missing, emptied above the cap.
-  if (o.testMode >= 0 && o.useLog) {
-    if (p.isSet(logFile))
-      CheckLogAt(s, QDir::current().absoluteFilePath(p.value(logFile)));
+  if (s.m_useDatabase) {
+    if (p.isSet(o.logFile))
+      CheckLogAt(s, QDir::current().absoluteFilePath(p.value(o.logFile)));
     else
       CheckLogAtStart(s);
   }
 
+  BatchControl control;
+  control.processEvents = [&control] {
+    if (g_interrupted) control.Cancel();
+  };
+  BatchList list(batchKind);
+  list.SetShowDb(showDb);
   QTextStream out(stdout);
-  int failures = 0;
-  for (const QString& f : files) {
-    HeadlessReport r = TestFileHeadless(s, prompt, f, o);
-    if (!r.ok) ++failures;
-    if (p.isSet(json)) {
-      out << QJsonDocument(ToJson(r)).toJson(QJsonDocument::Compact) << "\n";
-    } else {
-      PrintTable(out, r);
-    }
+  CliView view(list, out, json, csv, showDb, testMode >= 0 && ::isatty(STDERR_FILENO));
+  if (csv) {
+    out << QStringList(LogColumnNames()).join(',') << ",Status,Error\n";
     out.flush();
   }
+
+  // Gather: every PATH in order. A named file that can't be taken keeps its place.
+  {
+    BatchAdder add(list, s, &control);
+    for (const QString& path : paths) {
+      const QFileInfo fi(path);
+      const bool named = !fi.isDir() && !(IsPlaylistName(path) && fi.isFile());
+      const size_t before = add.Problems().size();
+      add.AddPath(path, p.isSet(o.recursive));
+      if (add.Cancelled()) break;
+      if (named && add.Problems().size() > before) {
+        HeadlessReport r;
+        r.file = add.Problems().back().path;
+        r.error = add.Problems().back().text;
+        view.refused.push_back({list.FileCount(), r});
+      }
+    }
+  }
+  if (g_interrupted) return 130;
+
+  int failures = int(view.refused.size());
+  if (testMode < 0) {
+    // Properties only, through the single-file road.
+    for (int row = 0; row < list.FileCount() && !g_interrupted; ++row) {
+      view.PrintRefused(row);
+      RecordingPrompt rp;
+      s.m_prompt.SetUi(&rp);
+      HeadlessOptions ho;
+      const HeadlessReport r = TestFileHeadless(s, rp, list.PathOf(row), ho);
+      if (!r.ok) ++failures;
+      BatchRowOutcome oc;
+      oc.path = r.file;
+      oc.error = r.error;
+      oc.state = r.ok ? BatchRowOutcome::Tested : BatchRowOutcome::Failed;
+      view.Print(r, oc);
+    }
+    view.PrintRefused(INT32_MAX);
+    JoinWorker();
+    if (g_interrupted) return 130;
+    return failures ? 1 : 0;
+  }
+
+  // Every listed file is the person's choice: a bad one is reported in its place.
+  list.CheckAll();
+  BatchRunner run(list, s, control, {testMode, s.m_useDatabase != 0, jobs});
+  run.SetView(&view);
+  BatchRunSummary sum;
+  if (list.FileCount() > 0) {
+    // The run's own "no file checked" message does not apply: there were no files.
+    sum = run.Run();
+  }
+  view.PrintRefused(sum.cancelled ? -1 : INT32_MAX);
+  failures += sum.failed;
+
+  const QString summary = QString::asprintf(
+      "%d files, %d tested, %d from the log, %d failed; %.1f s of audio in %.1f s (%.1fx realtime)%s",
+      sum.count + int(view.refused.size()), sum.tested, sum.fromLog, failures, sum.audioSeconds, sum.wallSeconds,
+      sum.Realtime(), sum.cancelled ? "; stopped" : "");
+  // Machine formats keep their stream to the rows; the summary goes beside them.
+  if (json || csv)
+    err << summary << "\n";
+  else
+    out << summary << "\n";
+  out.flush();
   JoinWorker();
+  if (sum.cancelled || g_interrupted) return 130;
   return failures ? 1 : 0;
 }

@@ -42,6 +42,8 @@
 #include "app/widgets/DataBaseDialog.h"
 #include "controls/ColorRef.h"
 #include "controls/LevelBar.h"
+#include "app/widgets/Icons.h"
+#include "app/widgets/ShellMenus.h"
 #include "formats/OpenPipeline.h"
 #include "formats/WorkFile.h"
 #include "level/LevelDisplay.h"
@@ -159,8 +161,8 @@ void CBrenlowv10Dlg::BuildMenus() {
   AddCommand(test, kCmdClearDatabase, Tonvane::tr("&Clear Database"), QKeySequence("Alt+C"));
   AddCommand(test, kCmdDatabase, Tonvane::tr("&Database..."), QKeySequence("Alt+D"));
 
-  // Alt+P belongs to Beep, so the player's menu takes its mnemonic elsewhere.
-  QMenu* player = mb->addMenu(Tonvane::tr("Pla&yer"));
+  // Alt+P belongs to Beep when finished, so the player's menu goes without a mnemonic.
+  QMenu* player = mb->addMenu(Tonvane::tr("&Player").remove(QLatin1Char('&')));
   AddCommand(player, kCmdPlayPause, Tonvane::tr("Play / Pa&use"), QKeySequence("Ctrl+U"));
   AddCommand(player, kCmdStop, Tonvane::tr("&Stop"), QKeySequence("Ctrl+T"));
   QMenu* volume = player->addMenu(Tonvane::tr("&Volume"));
@@ -177,12 +179,16 @@ void CBrenlowv10Dlg::BuildMenus() {
   QMenu* options = mb->addMenu(Tonvane::tr("&Options"));
   AddCommand(options, kCmdAlwaysOnTop, Tonvane::tr("&Always on Top"), QKeySequence("Alt+A"))->setCheckable(true);
   AddCommand(options, kCmdBeep, Tonvane::tr("&Beep when finished"), QKeySequence("Alt+P"))->setCheckable(true);
+  auto* shell = new ShellMenus(this);
+  shell->AddOptionMenus(options, m_actions);
 
   QMenu* help = mb->addMenu(Tonvane::tr("&Help"));
   AddCommand(help, kCmdHelp, Tonvane::tr("Help &Tonvane"), QKeySequence("F1"));
   AddCommand(help, kCmdHomepage, Tonvane::tr("&Open Homepage Tonvane"));
   help->addSeparator();
   AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
+  connect(action(kCmdHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
+  connect(action(kCmdAbout), &QAction::triggered, shell, &ShellMenus::OnAbout);
 
   // Ctrl+X still asks to leave while a test runs, when the Exit item is grey.
   m_exitDuringTest = new QShortcut(QKeySequence("Ctrl+X"), this);
@@ -195,26 +201,25 @@ void CBrenlowv10Dlg::BuildToolBar() {
   m_toolBar->setObjectName("toolBar");
   m_toolBar->setMovable(false);
   m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  QStyle* st = style();
   struct Item {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* caption;
     const char* tip;
   };
   const Item items[] = {
-      {kToolOpen, QStyle::SP_DialogOpenButton, QT_TRANSLATE_NOOP("Tonvane", "Open"),
+      {kToolOpen, "document-open", QT_TRANSLATE_NOOP("Tonvane", "Open"),
        QT_TRANSLATE_NOOP("Tonvane", "Open (Ctrl+O)")},
-      {kToolBatch, QStyle::SP_FileDialogListView, QT_TRANSLATE_NOOP("Tonvane", "Batch"),
+      {kToolBatch, "tonvane-batch", QT_TRANSLATE_NOOP("Tonvane", "Batch"),
        QT_TRANSLATE_NOOP("Tonvane", "Batch Processor (Ctrl+P)")},
-      {kToolHelp, QStyle::SP_DialogHelpButton, QT_TRANSLATE_NOOP("Tonvane", "Help"),
+      {kToolHelp, "help-contents", QT_TRANSLATE_NOOP("Tonvane", "Help"),
        QT_TRANSLATE_NOOP("Tonvane", "Help (F1)")},
-      {kToolExit, QStyle::SP_DialogCloseButton, QT_TRANSLATE_NOOP("Tonvane", "Exit"),
+      {kToolExit, "application-exit", QT_TRANSLATE_NOOP("Tonvane", "Exit"),
        QT_TRANSLATE_NOOP("Tonvane", "Exit (Ctrl+X)")},
   };
   for (const Item& it : items) {
     if (it.id == kToolBatch || it.id == kToolHelp) m_toolBar->addSeparator();
-    QAction* a = m_toolBar->addAction(st->standardIcon(it.icon), Tonvane::tr(it.caption));
+    QAction* a = m_toolBar->addAction(tonvane::ThemedIcon(it.icon), Tonvane::tr(it.caption));
     a->setToolTip(Tonvane::tr(it.tip));
     a->setData(it.id);
     a->setObjectName(QStringLiteral("tool%1").arg(it.id));
@@ -356,25 +361,24 @@ void CBrenlowv10Dlg::BuildCentral() {
   playerLayout->addWidget(m_seekBar);
   m_controls[kIdSeekBar] = m_seekBar;
   auto* transport = new QHBoxLayout;
-  QStyle* st = style();
   struct Button {
     int id;
-    QStyle::StandardPixmap icon;
+    const char* icon;  // freedesktop icon name
     const char* tip;
   };
   // From the left: Play, Stop, Shuffle, Repeat, Mute, Previous, Next.
   const Button buttons[] = {
-      {kIdPlay, QStyle::SP_MediaPlay, QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
-      {kIdStop, QStyle::SP_MediaStop, QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
-      {kIdShuffle, QStyle::SP_BrowserReload, QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
-      {kIdRepeat, QStyle::SP_ArrowBack, QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
-      {kIdMute, QStyle::SP_MediaVolumeMuted, QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
-      {kIdPrevious, QStyle::SP_MediaSkipBackward, QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
-      {kIdNext, QStyle::SP_MediaSkipForward, QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
+      {kIdPlay, "media-playback-start", QT_TRANSLATE_NOOP("Tonvane", "Play / Pause (Ctrl+U)")},
+      {kIdStop, "media-playback-stop", QT_TRANSLATE_NOOP("Tonvane", "Stop (Ctrl+T)")},
+      {kIdShuffle, "media-playlist-shuffle", QT_TRANSLATE_NOOP("Tonvane", "Shuffle (S)")},
+      {kIdRepeat, "media-playlist-repeat", QT_TRANSLATE_NOOP("Tonvane", "Repeat (R)")},
+      {kIdMute, "audio-volume-muted", QT_TRANSLATE_NOOP("Tonvane", "Mute (F8)")},
+      {kIdPrevious, "media-skip-backward", QT_TRANSLATE_NOOP("Tonvane", "Previous (P)")},
+      {kIdNext, "media-skip-forward", QT_TRANSLATE_NOOP("Tonvane", "Next (N)")},
   };
   for (const Button& b : buttons) {
     auto* tb = new QToolButton(playerGroup);
-    tb->setIcon(st->standardIcon(b.icon));
+    tb->setIcon(tonvane::ThemedIcon(b.icon));
     tb->setToolTip(Tonvane::tr(b.tip));
     // The buttons show only an icon; a screen reader says the tip's words.
     tb->setAccessibleName(Tonvane::tr(b.tip));
@@ -454,8 +458,9 @@ void CBrenlowv10Dlg::ConnectCommands() {
   on(kCmdExit, [this] { OnExit(); });
   on(kToolExit, [this] { OnExit(); });
   on(kCmdTest, [this] { OnTest(); });
-  on(kCmdBatch, [this] { Call(m_batch); });
-  on(kToolBatch, [this] { Call(m_batch); });
+  on(kCmdBatch, [this] { OnBatchProcessor(); });
+  on(kToolBatch, [this] { OnBatchProcessor(); });
+  connect(action(kToolHelp), &QAction::triggered, action(kCmdHelp), &QAction::trigger);
   on(kCmdShowPercent, [this] { SetShowDb(0); });
   on(kCmdShowDb, [this] { SetShowDb(1); });
   on(kCmdUseDatabase, [this](bool checked) { m_s.m_useDatabase = checked ? 1 : 0; });
@@ -469,9 +474,6 @@ void CBrenlowv10Dlg::ConnectCommands() {
     m_s.m_alwaysOnTop = checked ? 1 : 0;
     setWindowFlag(Qt::WindowStaysOnTopHint, checked);
     show();
-  });
-  on(kCmdAbout, [this] {
-    QMessageBox::about(this, Tonvane::tr("About Tonvane"), tonvane::kAppTitle + QStringLiteral(" (" TONVANE_VERSION ")"));
   });
   // The player's commands; the player fills them in.
   on(kCmdPlayPause, [this] { Call(m_player.playPause); });

@@ -113,7 +113,6 @@ class CBrenlowv10Dlg : public QMainWindow {
   int previousIndex() const { return m_previousIndex; }
 
   void SetPlayerCommands(const PlayerCommands& commands) { m_player = commands; }
-  void SetBatchCommand(std::function<void()> batch) { m_batch = std::move(batch); }
 
   // The ways in for a file: the Open command, and a name from the list (empty path: the
   // list's selection), the command line, a drop or the player's steps. 1 when a file is open.
@@ -125,6 +124,8 @@ class CBrenlowv10Dlg : public QMainWindow {
   void SetShowDb(int db);
   // Leaves the program: deletes the work file and ends the window.
   void Shutdown();
+  // The batch processor: the kind of the open file, or the one chosen; the window is modal.
+  void OnBatchProcessor();
 
  protected:
   void timerEvent(class QTimerEvent* e) override;
@@ -167,7 +168,6 @@ class CBrenlowv10Dlg : public QMainWindow {
   QtPump m_pumpUi;
   QString m_commandLineFile;
   PlayerCommands m_player;
-  std::function<void()> m_batch;
   int m_timer1 = 0;
   int m_timer2 = 0;
   int m_enableTicks = 0;

@@ -4,6 +4,10 @@
 <context>
     <name>Tonvane</name>
     <message>
+        <source>This program is free software under the GNU General Public License, version 2 or later. It comes with no warranty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>  Copying of the file is fulfilling</source>
         <translation type="unfinished"></translation>
     </message>
@@ -109,7 +113,479 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Russian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spanish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dutch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portuguese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Norwegian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Danish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Croatian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Czech</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slovenian</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program should be restarted to set another interface language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Windows XP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Office XP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;ffice 2000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off&amp;ice 2003</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measures how loud audio files are: the peak level and the average level against the 89 dB reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E-mail:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web site:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Libraries in use:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Processing: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add Files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Playback</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play / Pa&amp;use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;revious</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -130,14 +606,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -165,23 +633,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Open...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Exit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Test</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -201,51 +657,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Use Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pla&amp;yer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Play / Pa&amp;use</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Down</source>
+        <source>&amp;Player</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>P&amp;revious</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Next</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -261,19 +677,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -286,10 +690,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>&amp;About Tonvane...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -313,10 +713,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation type="unfinished"></translation>
     </message>
@@ -329,27 +725,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Test Peak Level</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clipping</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Player</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -417,11 +797,23 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>About Tonvane</source>
+        <source>Don&apos;t show again</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Don&apos;t show again</source>
+        <source>&amp;Interface Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help of the program is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the help page %1 cannot be opened.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -506,6 +898,86 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wav Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Wav files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp3 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any FLAC files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Ogg files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Files (*.ape)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any APE files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain any Mp4 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M3U Playlist (*.m3u;*.m3u8)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -640,34 +1112,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> GB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -839,6 +1283,342 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>The database has been successfully cleared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sound device is available.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Volume&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Previous&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Next&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Repeat&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=greenvolume&gt;Seek&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Play&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Stop&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Mute&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=blue&gt;Pause&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;&lt;font color=orangebutton&gt;Shuffle&lt;/font&gt;&lt;/h3&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No free channel could be found to play the sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The specified channel has been reused to play another sound. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error loading file. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t perform seek operation. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends before any sound could be read from it. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File not found. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported file or audio format. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system is not ready for this call. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid object handle was used. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid parameter was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An invalid seek position was passed to this function. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not enough memory or resources. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error initializing the sound output device. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound system has not been initialized yet. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>№</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Audio Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> TB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> not tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Total:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bits: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total Duration: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but test of the volume level was stopped because the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Joint Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Dual Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Mono</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM IEEE Float</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PCM (Pulse-Code Modulation)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-4 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG-2 AAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG4 ALAC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC (Free Lossless Audio Codec)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ABR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APE Monkey&apos;s Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; Right: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mono Channel: </source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -8,10 +8,25 @@
 #include "app/Globals.h"
 #include "formats/WorkFile.h"
 
+namespace {
+// Test programs live in tests/ of the build tree, one folder below the data files that the
+// build puts beside the programs (translations/, help/, notify.wav).
+const bool kDataDirSet = [] {
+  if (qEnvironmentVariableIsEmpty("TONVANE_DATA_DIR")) qputenv("TONVANE_DATA_DIR", TONVANE_BUILD_DIR);
+  return true;
+}();
+}  // namespace
+
 namespace testing_support {
 
 QString Fixture(const QString& name) { return QStringLiteral(TONVANE_FIXTURES) + "/" + name; }
-QString ApeData(const QString& name) { return QStringLiteral(TONVANE_APE_DATA) + "/" + name; }
+// The shared test data beside the repository; TONVANE_APE_DATA names it for a checkout
+// that stands elsewhere (a worktree).
+QString ApeData(const QString& name) {
+  const QString dir = qEnvironmentVariableIsSet("TONVANE_APE_DATA") ? qEnvironmentVariable("TONVANE_APE_DATA")
+                                                                    : QStringLiteral(TONVANE_APE_DATA);
+  return dir + "/" + name;
+}
 QString CliPath() { return QStringLiteral(TONVANE_CLI); }
 
 TestSession::TestSession() {

@@ -1,31 +1,44 @@
 // tonvane: the window.
 #include <QApplication>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
-#include <QTranslator>
 extern "C" {
 #include <libavutil/log.h>
 }
 #include <clocale>
 #include <cstdio>
 
+#include "app/Languages.h"
 #include "app/SingleInstance.h"
+#include "app/Themes.h"
 #include "app/Settings.h"
 #include "app/Text.h"
+#include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QCoreApplication::setOrganizationName(Settings::Organization());
   QCoreApplication::setApplicationName(QStringLiteral("Tonvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(TONVANE_VERSION));
+  // Ties the windows to tonvane.desktop (its icon and name in the panel, on Wayland too).
+  QGuiApplication::setDesktopFileName(QStringLiteral("tonvane"));
+  QApplication::setWindowIcon(tonvane::AppIcon());
   // Numbers in files are written and read in the C locale whatever the interface language.
   std::setlocale(LC_NUMERIC, "C");
   // The decoders report damage through our own messages; FFmpeg's log lines would only
   // repeat them on the console.
   av_log_set_level(AV_LOG_QUIET);
+
+  // The interface language takes effect at start, before the refusal of a second copy can
+  // speak: the program's .qm for the stored code and Qt's own for its locale; a missing file
+  // leaves that part English.
+  const QString code = Settings::Language();
+  LanguageLoader language;
+  language.Load(code);
+  ApplyLanguageFont(LanguageOrEnglish(code));
+  ApplyTheme(ThemeFor(StoredTheme()));
 
   SingleInstance instance;
   if (!instance.Acquire()) {
@@ -33,16 +46,6 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "%s\n", text.toUtf8().constData());
     QMessageBox::critical(nullptr, tonvane::kAppTitle, text);
     return 1;
-  }
-
-  // The interface language takes effect at start: one .qm per language code beside the
-  // program or in its translations folder; a missing one leaves the program in English.
-  QTranslator translator;
-  const QString code = Settings::Language();
-  if (!code.isEmpty()) {
-    const QString dir = QCoreApplication::applicationDirPath();
-    if (translator.load("tonvane_" + code, dir) || translator.load("tonvane_" + code, dir + "/translations"))
-      app.installTranslator(&translator);
   }
 
   QString file;

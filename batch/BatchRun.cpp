@@ -1,0 +1,329 @@
+#include "batch/BatchRun.h"
+
+#include <chrono>
+#include <cmath>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "app/Session.h"
+#include "app/Text.h"
+#include "batch/BatchControl.h"
+#include "batch/BatchList.h"
+#include "batch/RowTexts.h"
+#include "formats/Kinds.h"
+#include "log/TestLog.h"
+
+namespace {
+
+class SteadyClock : public IBatchClock {
+ public:
+  double Now() override {
+    using namespace std::chrono;
+    return duration<double>(steady_clock::now().time_since_epoch()).count();
+  }
+};
+
+LogTest GroupOf(int kind, int testMode, bool showDb) {
+  if (kind == kKindMp3 || testMode == 1) return LogTest::Gain;
+  return showDb ? LogTest::WavPik : LogTest::Wav;
+}
+
+struct Job {
+  int row = -1;
+  QString path;
+  int kind = 0;
+  int testMode = 0;
+  uint64_t size = 0;
+  uint32_t durationMs = 0;
+  int channels = 0;
+  int bits = 0;
+  bool bad = false;
+  QString badWhy;
+  bool hit = false;
+  LevelResult hitResult;
+};
+
+struct Slot {
+  bool done = false;
+  BatchMeasureResult result;
+};
+
+// Sets a session flag for the life of the run.
+class ScopedFlag {
+ public:
+  explicit ScopedFlag(int& flag) : m_flag(flag) { m_flag = 1; }
+  ~ScopedFlag() { m_flag = 0; }
+
+ private:
+  int& m_flag;
+};
+
+}  // namespace
+
+void BatchEstimate::Start(double now, uint64_t bytesToMeasure) {
+  m_start = now;
+  m_pausedAt = -1;
+  m_pausedTotal = 0;
+  m_total = bytesToMeasure;
+  m_done = 0;
+}
+
+void BatchEstimate::PauseBegan(double now) {
+  if (m_pausedAt < 0) m_pausedAt = now;
+}
+
+void BatchEstimate::PauseEnded(double now) {
+  if (m_pausedAt >= 0) m_pausedTotal += now - m_pausedAt;
+  m_pausedAt = -1;
+}
+
+double BatchEstimate::FileMeasured(double now, uint64_t bytes) {
+  m_done += bytes;
+  const double active = now - m_start - m_pausedTotal - (m_pausedAt >= 0 ? now - m_pausedAt : 0);
+  if (m_done == 0 || active <= 0) return -1;
+  const double speed = double(m_done) / active;
+  return m_total > m_done ? double(m_total - m_done) / speed : 0.0;
+}
+
+BatchRunner::BatchRunner(BatchList& list, Session& s, BatchControl& control, const BatchRunOptions& options)
+    : m_list(list), m_s(s), m_control(control), m_options(options), m_measure(MeasureForBatch),
+      m_parallel(MeasureForBatchIsParallel()) {}
+
+BatchRunner::~BatchRunner() = default;
+
+void BatchRunner::SetMeasure(BatchMeasureFn measure, bool parallel) {
+  m_measure = std::move(measure);
+  m_parallel = parallel;
+}
+
+BatchRunSummary BatchRunner::Run() {
+  BatchRunSummary summary;
+  SteadyClock steady;
+  IBatchClock& clock = m_clock ? *m_clock : steady;
+  IBatchRunView nullView;
+  IBatchRunView& view = m_view ? *m_view : nullView;
+  const bool showDb = m_list.ShowDb();
+
+  // The work order: every checked row, in list order.
+  std::vector<Job> jobs;
+  for (int row = 0; row < m_list.FileCount(); ++row) {
+    if (!m_list.IsChecked(row)) continue;
+    const BatchFileInfo& f = *m_list.Info(row);
+    Job j;
+    j.row = row;
+    j.path = f.path;
+    j.kind = int(f.kind);
+    j.testMode = j.kind == kKindMp3 ? 1 : m_options.testMode;
+    j.size = f.fullSize;
+    j.durationMs = f.durationMs;
+    j.channels = int(f.channels);
+    j.bits = int(f.bits);
+    j.bad = f.bad != 0;
+    j.badWhy = f.error;
+    jobs.push_back(j);
+  }
+  summary.count = int(jobs.size());
+  if (jobs.empty()) {
+    m_s.m_prompt.Message(Tonvane::tr("Sorry, but You have not selected any files. Therefore the batch test is stopped."),
+                         PromptIcon::Warning);
+    view.NothingChecked();
+    return summary;
+  }
+  ScopedFlag running(m_s.m_testRunning);
+  const double start = clock.Now();
+  view.Count(summary.count);
+
+  // The log first: the rows it knows are answered before any work is handed out.
+  std::unique_ptr<TestLog> log;
+  if (m_options.useLog && m_s.m_useDatabase) {
+    log = std::make_unique<TestLog>(m_s);
+    if (!log->OpenLog()) log.reset();
+  }
+  std::vector<size_t> misses;
+  uint64_t missBytes = 0;
+  for (size_t i = 0; i < jobs.size(); ++i) {
+    Job& j = jobs[i];
+    if (j.bad) continue;
+    if (log) {
+      m_s.m_sourceKind = j.kind;
+      if (log->FindRow(j.path) == RowState::Fresh) {
+        LevelResult v;
+        if (log->ReadResult(GroupOf(j.kind, j.testMode, showDb), v) == ReadOutcome::Hit) {
+          j.hit = true;
+          j.hitResult = v;
+          continue;
+        }
+      }
+    }
+    misses.push_back(i);
+    missBytes += j.size;
+  }
+
+  BatchEstimate estimate;
+  estimate.Start(start, missBytes);
+  m_control.pauseChanged = [&](bool paused) {
+    if (paused)
+      estimate.PauseBegan(clock.Now());
+    else
+      estimate.PauseEnded(clock.Now());
+    view.Paused(paused);
+  };
+
+  // Workers take the misses in list order.
+  std::vector<Slot> pending(misses.size());
+  std::vector<int> slotOf(jobs.size(), -1);
+  for (size_t k = 0; k < misses.size(); ++k) slotOf[misses[k]] = int(k);
+  std::mutex mutex;
+  std::condition_variable filled;
+  std::atomic<size_t> next{0};
+  const int workerCount =
+      misses.empty() ? 0 : m_parallel ? std::max(1, std::min<int>(m_options.jobs, int(misses.size()))) : 1;
+  std::vector<std::thread> workers;
+  for (int w = 0; w < workerCount; ++w) {
+    workers.emplace_back([&] {
+      while (m_control.WorkerPoll()) {
+        const size_t k = next++;
+        if (k >= misses.size()) break;
+        const Job& j = jobs[misses[k]];
+        BatchMeasureRequest request{j.path, j.kind, j.testMode, showDb};
+        BatchMeasureResult r = m_measure(request, m_control);
+        {
+          std::lock_guard<std::mutex> lock(mutex);
+          pending[k].result = std::move(r);
+          pending[k].done = true;
+        }
+        filled.notify_all();
+      }
+    });
+  }
+
+  // Commit in list order.
+  int committed = 0;
+  for (size_t i = 0; i < jobs.size() && !summary.cancelled; ++i) {
+    Job& j = jobs[i];
+    view.FileStarted(j.row, j.path);
+    BatchRowOutcome out;
+    out.row = j.row;
+    out.path = j.path;
+    out.kind = j.kind;
+    out.testMode = j.testMode;
+    out.channels = j.channels;
+    out.bits = j.bits;
+    if (j.bad) {
+      out.state = BatchRowOutcome::Failed;
+      out.error = j.badWhy;
+    } else if (j.hit) {
+      out.state = BatchRowOutcome::FromLog;
+      out.result = j.hitResult;
+    } else {
+      Slot& slot = pending[size_t(slotOf[i])];
+      for (;;) {
+        {
+          std::unique_lock<std::mutex> lock(mutex);
+          if (filled.wait_for(lock, std::chrono::milliseconds(16), [&] { return slot.done; })) break;
+        }
+        if (!m_control.Poll()) break;
+      }
+      bool done;
+      {
+        std::lock_guard<std::mutex> lock(mutex);
+        done = slot.done;
+      }
+      if (!done || slot.result.status == BatchMeasureResult::Cancelled || m_control.IsCancelled()) {
+        summary.cancelled = true;
+        break;
+      }
+      const BatchMeasureResult& r = slot.result;
+      out.sampleBytes = r.sampleBytes;
+      if (r.status == BatchMeasureResult::Ok) {
+        out.state = BatchRowOutcome::Tested;
+        out.result = r.result;
+        if (!out.channels) out.channels = r.channels;
+        if (!out.bits) out.bits = r.bits;
+        if (j.durationMs == 0 && r.durationMs) {
+          m_list.SetDuration(j.row, r.durationMs);
+          j.durationMs = r.durationMs;
+        }
+        if (log) {
+          m_s.m_sourceKind = j.kind;
+          const LogTest group = GroupOf(j.kind, j.testMode, showDb);
+          const RowState state = log->FindRow(j.path);
+          if (state == RowState::Fresh) {
+            LevelResult carried;
+            log->ReadResult(group, carried);  // the other groups stay in the record
+          }
+          log->WriteRow(j.path, group, state, r.result);
+        }
+        const double left = estimate.FileMeasured(clock.Now(), j.size);
+        if (left >= 0) view.Estimate(left);
+      } else {
+        out.state = BatchRowOutcome::Failed;
+        out.error = r.error;
+      }
+    }
+    switch (out.state) {
+      case BatchRowOutcome::Tested:
+      case BatchRowOutcome::FromLog:
+        m_list.SetRowResult(j.row, LevelsOfResult(out.result, j.kind, j.testMode, showDb, out.channels, out.bits));
+        m_list.SetTested(j.row);
+        (out.state == BatchRowOutcome::Tested ? summary.tested : summary.fromLog)++;
+        summary.audioSeconds += j.durationMs / 1000.0;
+        if (out.state == BatchRowOutcome::Tested) summary.measuredSeconds += j.durationMs / 1000.0;
+        break;
+      case BatchRowOutcome::Failed:
+        if (!j.bad) m_list.MarkBad(j.row, out.error);
+        ++summary.failed;
+        break;
+    }
+    view.RowDone(out);
+    ++committed;
+    view.Progress(int(99.0 * committed / summary.count));
+    if (!m_control.Poll()) summary.cancelled = true;
+  }
+
+  if (summary.cancelled) m_control.Cancel();  // workers stop at their next poll
+  for (std::thread& t : workers) t.join();
+  m_control.pauseChanged = nullptr;
+  if (log) log->CloseLog();
+  summary.wallSeconds = clock.Now() - start;
+  if (summary.cancelled)
+    view.Cancelled();
+  else
+    view.Progress(100);
+  view.Finished(summary);
+  return summary;
+}
+
+QString BatchEstimateText(double secondsLeft) {
+  // Whole seconds, half a second up; then hours and minutes of that.
+  const double rem = std::max(0.0, secondsLeft);
+  const long total = long(rem - std::floor(rem) >= 0.5 ? std::ceil(rem) : std::floor(rem));
+  const long hours = total / 3600, minutes = total / 60 % 60, seconds = total % 60;
+  QString t;
+  if (hours > 0) t += QString::number(hours) + Tonvane::tr(" hr ");
+  if (minutes > 0) t += QString::number(minutes) + Tonvane::tr(" min ");
+  return t + QString::number(seconds) + Tonvane::tr(" sec");
+}
+
+QString BatchCountText(int files) {
+  return QString::number(files) + (files == 1 ? Tonvane::tr(" file") : Tonvane::tr(" files"));
+}
+
+QString BatchTestedText(int tested, int total) {
+  return QString::number(tested) + Tonvane::tr(" from ") + BatchCountText(total);
+}
+
+uint32_t BatchTestedColor(int tested, int total) { return tested >= total ? 0xcb1e1e : 0x180acd; }
+bool BatchTestedBlinks(int tested, int total) { return tested < total; }
+QString BatchBarText(int percent) { return QString::number(percent) + "%" + Tonvane::tr(" Completed"); }
+QString BatchTitleText(int percent) { return QString::number(percent) + "% " + Tonvane::tr("Batch Test..."); }
+QString BatchRunningText() { return Tonvane::tr("Please, wait the batch test is fulfilling"); }
+QString BatchPausedText() { return Tonvane::tr("Test is suspended"); }
+QString BatchCancelledText() { return Tonvane::tr("Test is cancelled"); }
+
+QString BatchNoFilesText(int batchKind, const QString& folder) {
+  const KindInfo* k = KindInfoOf(batchKind);
+  return Tonvane::tr("Sorry, but the open folder ") + folder + (k ? Tonvane::tr(k->noFilesText) : QString());
+}
