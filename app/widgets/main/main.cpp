@@ -16,6 +16,7 @@ extern "C" {
 #include "app/Text.h"
 #include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/MainWindowPlayer.h"
 #include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
@@ -54,6 +55,7 @@ int main(int argc, char** argv) {
   if (args.size() > 1) file = QFileInfo(args.at(1)).absoluteFilePath();
 
   CBrenlowv10Dlg dlg(file);
+  MainWindowPlayer player(&dlg);
   dlg.resize(760, 600);
   dlg.show();
   return app.exec();
