@@ -19,6 +19,7 @@ extern "C" {
 #include <cstdio>
 #include <ctime>
 
+#include "lazy/LazyLibraries.h"
 #include "app/Globals.h"
 #include "app/HeadlessTest.h"
 #include "app/Session.h"
@@ -284,7 +285,7 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   // The decoders report damage through our own messages; FFmpeg's log lines would only
   // repeat them on the console.
-  av_log_set_level(AV_LOG_QUIET);
+  WhenLibrariesLoad([] { av_log_set_level(AV_LOG_QUIET); });
 
   QCommandLineParser p;
   CliOptions o;

@@ -82,12 +82,12 @@ void SeekBar::HitTest() {
 
 void SeekBar::enterEvent(QEnterEvent* e) {
   QSlider::enterEvent(e);
-  HitTest();
 }
 
 void SeekBar::mousePressEvent(QMouseEvent* e) {
   if (e->button() != Qt::LeftButton) return;
   HitTest();
+  m_pressed = true;
   snd::Channel* channel = m_host != nullptr ? m_host->SeekChannel() : nullptr;
   if (channel != nullptr) {
     bool paused = false;
@@ -150,6 +150,7 @@ void SeekBar::mouseReleaseEvent(QMouseEvent* e) {
   if (e->button() != Qt::LeftButton) return;
   snd::Channel* channel = m_host != nullptr ? m_host->SeekChannel() : nullptr;
   m_dragging = false;
+  m_pressed = false;
   if (channel != nullptr) {
     m_followTimer.stop();
     const int p = value();

@@ -23,6 +23,8 @@ class SeekBar : public QSlider {
   static constexpr int kThumbHeight = 12;
 
   int ThumbX() const { return m_thumbX; }
+  // The user holds the bar: the player leaves its position alone.
+  bool Held() const { return m_pressed; }
   // Places the thumb from the position.
   void PlaceThumb();
 
@@ -53,6 +55,7 @@ class SeekBar : public QSlider {
   ISeekHost* m_host = nullptr;
   int m_thumbX = kThumbWidth;
   bool m_hot = false;
+  bool m_pressed = false;
   bool m_rightHeld = false, m_leftHeld = false;
   bool m_thumbPressed = false, m_dragging = false;
   bool m_wasPaused = false;

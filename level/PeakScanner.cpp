@@ -1,5 +1,6 @@
 #include "level/PeakScanner.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -7,6 +8,10 @@
 #include <chrono>
 #include <cmath>
 #include <cstring>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <system_error>
 #include <thread>
 
 #include <QtEndian>
@@ -16,11 +21,9 @@
 #include "app/Session.h"
 #include "app/Text.h"
 #include "formats/WorkFile.h"
+#include "level/ExtremesKernels.h"
 #include "level/LevelScales.h"
 
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 // ---------------------------------------------------------------------------------------
 // Sample blocks
@@ -50,139 +53,38 @@ bool ChooseSampleBlock(int channels, int bits, uint16_t formatTag, SampleBlock& 
 // ---------------------------------------------------------------------------------------
 // The kernel
 
-namespace {
-
-inline int32_t Read24(const uint8_t* p) {
-  const uint32_t u = uint32_t(p[0]) | uint32_t(p[1]) << 8 | uint32_t(p[2]) << 16;
-  return int32_t(u << 8) >> 8;
-}
-inline int32_t Read32(const uint8_t* p) {
-  int32_t v;
-  std::memcpy(&v, p, 4);
-  return v;
-}
-inline float ReadFloat(const uint8_t* p) {
-  float v;
-  std::memcpy(&v, p, 4);
-  return v;
-}
-inline int16_t Read16(const uint8_t* p) {
-  int16_t v;
-  std::memcpy(&v, p, 2);
-  return v;
-}
-
-// Extremes of interleaved 16-bit samples: `stride` 1 for mono, 2 for stereo. Extremes start
-// at 0, so the minimum and maximum of the values and 0 are what is kept.
-void Extremes16(const uint8_t* p, size_t samples, bool stereo, int32_t mn[2], int32_t mx[2]) {
-  size_t i = 0;
-#if defined(__SSE2__)
-  __m128i mn0 = _mm_setzero_si128(), mx0 = mn0, mn1 = mn0, mx1 = mn0;
-  for (; i + 16 <= samples; i += 16) {
-    const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 2 * i));
-    const __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 2 * i + 16));
-    mn0 = _mm_min_epi16(mn0, a);
-    mx0 = _mm_max_epi16(mx0, a);
-    mn1 = _mm_min_epi16(mn1, b);
-    mx1 = _mm_max_epi16(mx1, b);
-  }
-  alignas(16) int16_t lo[8], hi[8];
-  _mm_store_si128(reinterpret_cast<__m128i*>(lo), _mm_min_epi16(mn0, mn1));
-  _mm_store_si128(reinterpret_cast<__m128i*>(hi), _mm_max_epi16(mx0, mx1));
-  for (int k = 0; k < 8; ++k) {
-    const int c = stereo ? (k & 1) : 0;  // 16 samples a round, so lanes keep their channel
-    mn[c] = std::min<int32_t>(mn[c], lo[k]);
-    mx[c] = std::max<int32_t>(mx[c], hi[k]);
-  }
-#endif
-  for (; i < samples; ++i) {
-    const int c = stereo ? int(i & 1) : 0;
-    const int32_t v = Read16(p + 2 * i);
-    mn[c] = std::min(mn[c], v);
-    mx[c] = std::max(mx[c], v);
-  }
-}
-
-// Unsigned 8-bit samples, extremes around 128.
-void Extremes8(const uint8_t* p, size_t samples, bool stereo, uint8_t mn[2], uint8_t mx[2]) {
-  size_t i = 0;
-#if defined(__SSE2__)
-  __m128i lo = _mm_set1_epi8(char(0x80)), hi = lo;
-  for (; i + 16 <= samples; i += 16) {
-    const __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
-    lo = _mm_min_epu8(lo, a);
-    hi = _mm_max_epu8(hi, a);
-  }
-  alignas(16) uint8_t l[16], h[16];
-  _mm_store_si128(reinterpret_cast<__m128i*>(l), lo);
-  _mm_store_si128(reinterpret_cast<__m128i*>(h), hi);
-  for (int k = 0; k < 16; ++k) {
-    const int c = stereo ? (k & 1) : 0;
-    mn[c] = std::min(mn[c], l[k]);
-    mx[c] = std::max(mx[c], h[k]);
-  }
-#endif
-  for (; i < samples; ++i) {
-    const int c = stereo ? int(i & 1) : 0;
-    mn[c] = std::min(mn[c], p[i]);
-    mx[c] = std::max(mx[c], p[i]);
-  }
-}
-
-}  // namespace
-
 void PeakExtremes::Feed(const uint8_t* p, size_t frames) {
   const bool stereo = m_block.channels == 2;
   const size_t samples = frames * size_t(m_block.channels);
-  switch (m_block.bits) {
-    case 16: {
-      int32_t mn[2] = {m_minLeft, m_minRight}, mx[2] = {m_maxLeft, m_maxRight};
-      Extremes16(p, samples, stereo, mn, mx);
-      m_minLeft = mn[0], m_minRight = mn[1], m_maxLeft = mx[0], m_maxRight = mx[1];
-      break;
+  if (m_block.bits == 8) {
+    uint8_t mn[2] = {m_min8Left, m_min8Right}, mx[2] = {m_max8Left, m_max8Right};
+    ExtremesU8(p, samples, stereo, mn, mx);
+    m_min8Left = mn[0], m_min8Right = mn[1], m_max8Left = mx[0], m_max8Right = mx[1];
+  } else if (m_block.isFloat) {
+    float mn[2] = {m_floatMinLeft, m_floatMinRight}, mx[2] = {m_floatMaxLeft, m_floatMaxRight};
+    ExtremesF32(p, samples, stereo, mn, mx);
+    m_floatMinLeft = mn[0], m_floatMinRight = mn[1], m_floatMaxLeft = mx[0], m_floatMaxRight = mx[1];
+  } else {
+    int32_t mn[2] = {m_minLeft, m_minRight}, mx[2] = {m_maxLeft, m_maxRight};
+    switch (m_block.bits) {
+      case 16: ExtremesS16(p, samples, stereo, mn, mx); break;
+      case 24: ExtremesS24(p, samples, stereo, mn, mx); break;
+      case 32: ExtremesS32(p, samples, stereo, mn, mx); break;
+      default: return;
     }
-    case 8: {
-      uint8_t mn[2] = {m_min8Left, m_min8Right}, mx[2] = {m_max8Left, m_max8Right};
-      Extremes8(p, samples, stereo, mn, mx);
-      m_min8Left = mn[0], m_min8Right = mn[1], m_max8Left = mx[0], m_max8Right = mx[1];
-      break;
-    }
-    case 24: {
-      int32_t mn[2] = {m_minLeft, m_minRight}, mx[2] = {m_maxLeft, m_maxRight};
-      for (size_t i = 0; i < samples; ++i) {
-        const int c = stereo ? int(i & 1) : 0;
-        const int32_t v = Read24(p + 3 * i);
-        mn[c] = std::min(mn[c], v);
-        mx[c] = std::max(mx[c], v);
-      }
-      m_minLeft = mn[0], m_minRight = mn[1], m_maxLeft = mx[0], m_maxRight = mx[1];
-      break;
-    }
-    case 32:
-      if (m_block.isFloat) {
-        float mn[2] = {m_floatMinLeft, m_floatMinRight}, mx[2] = {m_floatMaxLeft, m_floatMaxRight};
-        for (size_t i = 0; i < samples; ++i) {
-          const int c = stereo ? int(i & 1) : 0;
-          const float v = ReadFloat(p + 4 * i);
-          // Comparisons, not std::min: a NaN touches nothing.
-          if (v < mn[c]) mn[c] = v;
-          if (v > mx[c]) mx[c] = v;
-        }
-        m_floatMinLeft = mn[0], m_floatMinRight = mn[1], m_floatMaxLeft = mx[0], m_floatMaxRight = mx[1];
-      } else {
-        int32_t mn[2] = {m_minLeft, m_minRight}, mx[2] = {m_maxLeft, m_maxRight};
-        for (size_t i = 0; i < samples; ++i) {
-          const int c = stereo ? int(i & 1) : 0;
-          const int32_t v = Read32(p + 4 * i);
-          mn[c] = std::min(mn[c], v);
-          mx[c] = std::max(mx[c], v);
-        }
-        m_minLeft = mn[0], m_minRight = mn[1], m_maxLeft = mx[0], m_maxRight = mx[1];
-      }
-      break;
-    default:
-      break;
+    m_minLeft = mn[0], m_minRight = mn[1], m_maxLeft = mx[0], m_maxRight = mx[1];
   }
+}
+
+void PeakExtremes::Merge(const PeakExtremes& o) {
+  m_minLeft = std::min(m_minLeft, o.m_minLeft), m_minRight = std::min(m_minRight, o.m_minRight);
+  m_maxLeft = std::max(m_maxLeft, o.m_maxLeft), m_maxRight = std::max(m_maxRight, o.m_maxRight);
+  m_min8Left = std::min(m_min8Left, o.m_min8Left), m_min8Right = std::min(m_min8Right, o.m_min8Right);
+  m_max8Left = std::max(m_max8Left, o.m_max8Left), m_max8Right = std::max(m_max8Right, o.m_max8Right);
+  m_floatMinLeft = std::min(m_floatMinLeft, o.m_floatMinLeft);
+  m_floatMinRight = std::min(m_floatMinRight, o.m_floatMinRight);
+  m_floatMaxLeft = std::max(m_floatMaxLeft, o.m_floatMaxLeft);
+  m_floatMaxRight = std::max(m_floatMaxRight, o.m_floatMaxRight);
 }
 
 namespace {
@@ -345,9 +247,95 @@ const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t& length) {
   return v + (offset - start);
 }
 
+// Maps the pages of the next chunk in one call instead of taking a fault every few pages;
+// a kernel without MADV_POPULATE_READ (before 5.14) is asked once.
+void Prefault(const uint8_t* p, uint64_t bytes) {
+#ifdef MADV_POPULATE_READ
+  static std::atomic<bool> unsupported{false};
+  if (bytes == 0 || unsupported.load(std::memory_order_relaxed)) return;
+  static const uintptr_t page = uintptr_t(::sysconf(_SC_PAGESIZE));
+  const uintptr_t start = reinterpret_cast<uintptr_t>(p) / page * page;
+  const uintptr_t end = reinterpret_cast<uintptr_t>(p) + bytes;
+  if (::madvise(reinterpret_cast<void*>(start), end - start, MADV_POPULATE_READ) != 0 && errno == EINVAL)
+    unsupported = true;
+#else
+  (void)p, (void)bytes;
+#endif
+}
+
+// Views of this size or more are read by two threads: the second half by a helper while
+// this thread reads the first half, polls and moves the progress.
+constexpr uint64_t kSplitBytes = 8u << 20;
+
+// The helper's half of a view. It stops between two chunks when asked, and holds while
+// the test is paused.
+class HalfScan {
+ public:
+  enum State { kRun, kPause, kStop };
+  explicit HalfScan(const SampleBlock& block) : m_x(block), m_frameBytes(block.frameBytes) {}
+  ~HalfScan() { Stop(); }
+
+  // False when no thread could be started; the caller then reads the whole view itself.
+  bool Start(const uint8_t* p, uint64_t frames) {
+    try {
+      m_thread = std::thread([this, p, frames] { Run(p, frames); });
+    } catch (const std::system_error&) {
+      return false;
+    }
+    return true;
+  }
+  void SetPaused(bool paused) { m_state = paused ? kPause : kRun; }
+  void Stop() {
+    m_state = kStop;
+    if (m_thread.joinable()) m_thread.join();
+  }
+  // Frames read so far.
+  uint64_t Done() const { return m_done.load(std::memory_order_acquire); }
+  bool Finished() const { return m_finished.load(std::memory_order_acquire); }
+  // Waits up to `ms` for the end of the half.
+  void WaitFor(int ms) {
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_cv.wait_for(lock, std::chrono::milliseconds(ms), [this] { return Finished(); });
+  }
+  const PeakExtremes& Extremes() const { return m_x; }
+
+ private:
+  void Run(const uint8_t* p, uint64_t frames) {
+    while (frames > 0 && m_state != kStop) {
+      if (m_state == kPause) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        continue;
+      }
+      const uint64_t n = std::min<uint64_t>(frames, kPumpFrames);
+      Prefault(p, n * m_frameBytes);
+      m_x.Feed(p, size_t(n));
+      p += n * m_frameBytes;
+      frames -= n;
+      m_done.fetch_add(n, std::memory_order_release);
+    }
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_finished = frames == 0;
+    }
+    m_cv.notify_all();
+  }
+
+  PeakExtremes m_x;
+  uint32_t m_frameBytes;
+  std::atomic<int> m_state{kRun};
+  std::atomic<uint64_t> m_done{0};
+  std::atomic<bool> m_finished{false};
+  std::mutex m_mutex;
+  std::condition_variable m_cv;
+  std::thread m_thread;
+};
+
 class Scan {
  public:
   explicit Scan(Session& s) : m_s(s) {}
+
+  // The helper of the view being read, paused along with the test.
+  void SetHelper(HalfScan* h) { m_helper = h; }
 
   // One progress step of the single test or of the batch bar.
   void Step() {
@@ -367,6 +355,7 @@ class Scan {
     if (!m_s.m_pauseToggle) return;
     m_s.m_pauseToggle = 0;
     m_s.m_testPaused = 1;
+    if (m_helper) m_helper->SetPaused(true);
     if (m_s.m_hBatchProgress) m_s.m_hBatchProgress->Send(kMsgBatchPaused);
     while (!m_s.m_pauseToggle && !m_s.m_exitRequested) {
       m_s.PumpMessages();
@@ -374,6 +363,7 @@ class Scan {
     }
     m_s.m_pauseToggle = 0;
     m_s.m_testPaused = 0;
+    if (m_helper) m_helper->SetPaused(false);
     if (m_s.m_hBatchProgress) m_s.m_hBatchProgress->Send(kMsgBatchResumed);
   }
 
@@ -386,6 +376,7 @@ class Scan {
 
  private:
   Session& m_s;
+  HalfScan* m_helper = nullptr;
 };
 
 // Looks for the data chunk in the first bytes of the file when no reader has given it.
@@ -502,24 +493,66 @@ int ScanPeakLevels(Session& s) {
                                   ? BatchStepInterval(frames, passShare, s.m_progressRemainder)
                                   : SingleStepInterval(frames, s.m_progressPercent, passes - index);
     uint64_t counted = 0;
-    while (frames > 0) {
-      if (!scan.KeepGoing()) {
-        file.Unmap();
-        s.m_mappedView = nullptr;
-        s.StopTest();
-        return 1;
+    // Frames read by both threads move the bar: a step each time `interval` more are done.
+    auto account = [&](uint64_t n) {
+      if (interval == 0) return;
+      for (counted += n; counted >= interval; counted -= interval) scan.Step();
+    };
+    auto stop = [&](HalfScan* h) {
+      if (h) h->Stop();
+      scan.SetHelper(nullptr);
+      file.Unmap();
+      s.m_mappedView = nullptr;
+      s.StopTest();
+      return 1;
+    };
+
+    std::unique_ptr<HalfScan> helper;
+    uint64_t mine = frames;
+    if (frames * block.frameBytes >= kSplitBytes && std::thread::hardware_concurrency() > 1) {
+      helper = std::make_unique<HalfScan>(block);
+      mine = frames / 2;
+      if (helper->Start(p + mine * block.frameBytes, frames - mine)) {
+        scan.SetHelper(helper.get());
+      } else {
+        helper.reset();
+        mine = frames;
       }
-      uint64_t n = std::min(frames, kPumpFrames);
-      if (interval > 0) n = std::min(n, interval - counted);
+    }
+    uint64_t helperSeen = 0;
+    while (mine > 0) {
+      if (!scan.KeepGoing()) return stop(helper.get());
+      uint64_t n = std::min(mine, kPumpFrames);
+      if (interval > 0 && !helper) n = std::min(n, interval - counted);
+      Prefault(p, n * block.frameBytes);
       x.Feed(p, size_t(n));
       const uint64_t bytes = n * block.frameBytes;
       g_sampleBytesRead += bytes;
       p += bytes;
-      frames -= n;
-      if (interval > 0 && (counted += n) == interval) {
-        scan.Step();
-        counted = 0;
+      mine -= n;
+      uint64_t theirs = 0;
+      if (helper) {
+        const uint64_t done = helper->Done();
+        theirs = done - helperSeen;
+        helperSeen = done;
       }
+      account(n + theirs);
+    }
+    if (helper) {
+      // The rest of the helper's half, polling as before.
+      while (!helper->Finished()) {
+        if (!scan.KeepGoing()) return stop(helper.get());
+        helper->WaitFor(16);
+        const uint64_t done = helper->Done();
+        account(done - helperSeen);
+        helperSeen = done;
+      }
+      helper->Stop();
+      scan.SetHelper(nullptr);
+      account(helper->Done() - helperSeen);
+      g_sampleBytesRead += helper->Done() * block.frameBytes;
+      x.Merge(helper->Extremes());
+      helper.reset();
     }
     file.Unmap();
     s.m_mappedView = nullptr;

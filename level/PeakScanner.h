@@ -42,6 +42,8 @@ class PeakExtremes {
   // The raw peak of a channel (0 left, 1 right) in sample units of the word size; float
   // extremes are taken to 32-bit integer scale, 1.0 and beyond reading as full scale.
   double RawPeak(int channel) const;
+  // Takes in the extremes of another part of the same samples.
+  void Merge(const PeakExtremes& other);
 
   int32_t m_minLeft = 0, m_minRight = 0, m_maxLeft = 0, m_maxRight = 0;
   uint8_t m_min8Left = 128, m_max8Left = 128, m_min8Right = 128, m_max8Right = 128;

@@ -2,7 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <condition_variable>
 #include <cstring>
+#include <functional>
+#include <mutex>
+#include <system_error>
+#include <thread>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
 
 extern "C" {
 #include <libavutil/channel_layout.h>
@@ -148,98 +157,97 @@ constexpr int kHighestRate = 1536000;
 constexpr size_t kHistogramBins = 12000;  // 0 to 120 dB in 0.01 dB steps
 constexpr double kPercentile = 0.95;
 
-typedef double V2 __attribute__((vector_size(16)));
+// Frames gathered before the filters run: enough work for both channels' threads to be
+// worth a hand-over, little enough memory (1 MiB for stereo).
+constexpr size_t kBatchFrames = 65536;
 
-// One lane per channel: a plain double for mono, a pair for stereo, so both channels of
-// a frame run through the filter together.
-template <int C>
-struct Lanes;
-template <>
-struct Lanes<1> {
-  using T = double;
-  static T Load(const double* p) { return *p; }
-  static T Splat(double v) { return v; }
-  static void Store(T v, double* out) { out[0] = v; }
+// One channel's filter memory and its block levels.
+struct ChannelMemory {
+  double x[10] = {};  // past inputs, newest first
+  double y[10] = {};  // past Yule-Walker outputs, newest first
+  double z[2] = {};   // past Butterworth outputs, newest first
+  double sum = 0;     // squares of the running block
+  std::vector<uint32_t> histogram;
+  std::vector<double> input;  // the span's samples behind the last 10 inputs, oldest first
+  std::vector<double> fir;    // the Yule-Walker numerator's part of each output
 };
-template <>
-struct Lanes<2> {
-  using T = V2;
-  static T Load(const double* p) {
-    T v;
-    std::memcpy(&v, p, sizeof v);
-    return v;
+
+// The numerator of the Yule-Walker filter over a span: fir[i] from in[i + 10] (the sample)
+// back to in[i] (ten samples earlier). It has no feedback, so it runs four samples at a
+// time; the sums are grouped exactly as in the plain loop, so both give the same bits.
+void FirPlain(const LoudnessFilter& f, const double* in, size_t from, size_t n, double* fir) {
+  const double* b = f.b;
+  for (size_t i = from; i < n; ++i) {
+    const double* x = in + i + 10;
+    fir[i] = ((x[0] * b[0] + x[-1] * b[1]) + (x[-2] * b[2] + x[-3] * b[3])) +
+             ((x[-4] * b[4] + x[-5] * b[5]) + (x[-6] * b[6] + x[-7] * b[7])) +
+             ((x[-8] * b[8] + x[-9] * b[9]) + x[-10] * b[10]);
   }
-  static T Splat(double v) { return T{v, v}; }
-  static void Store(T v, double* out) { std::memcpy(out, &v, sizeof v); }
-};
+}
 
-}  // namespace
+#if defined(__x86_64__)
+// AVX without FMA on purpose: a fused multiply-add rounds once where the plain loop
+// rounds twice, and the results must not depend on the processor.
+__attribute__((target("avx"))) size_t FirAvx(const LoudnessFilter& f, const double* in, size_t n, double* fir) {
+  __m256d b[11];
+  for (int k = 0; k < 11; ++k) b[k] = _mm256_set1_pd(f.b[k]);
+  size_t i = 0;
+  for (; i + 4 <= n; i += 4) {
+    const double* x = in + i + 10;
+    __m256d t[11];
+    for (int k = 0; k < 11; ++k) t[k] = _mm256_mul_pd(_mm256_loadu_pd(x - k), b[k]);
+    const __m256d s0 = _mm256_add_pd(_mm256_add_pd(t[0], t[1]), _mm256_add_pd(t[2], t[3]));
+    const __m256d s1 = _mm256_add_pd(_mm256_add_pd(t[4], t[5]), _mm256_add_pd(t[6], t[7]));
+    const __m256d s2 = _mm256_add_pd(_mm256_add_pd(t[8], t[9]), t[10]);
+    _mm256_storeu_pd(fir + i, _mm256_add_pd(_mm256_add_pd(s0, s1), s2));
+  }
+  return i;
+}
+#endif
 
-// Filter memory of both channels, lane by lane, and the running block's sum of squares.
-struct ReplayGainAnalyser::Memory {
-  double x[10][2] = {};  // past inputs, newest first
-  double y[10][2] = {};  // past Yule-Walker outputs, newest first
-  double z[2][2] = {};   // past Butterworth outputs, newest first
-  double sum[2] = {};
-  std::vector<uint32_t> histogram[2];
-};
+void Fir(const LoudnessFilter& f, const double* in, size_t n, double* fir) {
+  size_t done = 0;
+#if defined(__x86_64__)
+  static const bool avx = __builtin_cpu_supports("avx");
+  if (avx) done = FirAvx(f, in, n, fir);
+#endif
+  FirPlain(f, in, done, n, fir);
+}
 
-struct ReplayGainAnalyser::Resampler {
-  SwrContext* swr = nullptr;
-  std::vector<double> out;
-  ~Resampler() { swr_free(&swr); }
-};
+// Runs `n` samples of one channel (every `stride`-th value of `in`) through the filter pair
+// and adds the squares of the output to the block sum. The feedback terms of the most
+// recent output are added last, so that the chain from one sample to the next is one
+// multiply and one subtraction long.
+void FilterSpan(const LoudnessFilter& f, ChannelMemory& m, const double* in, size_t stride, size_t n) {
+  m.input.resize(n + 10);
+  m.fir.resize(n);
+  double* xs = m.input.data();
+  for (int k = 0; k < 10; ++k) xs[k] = m.x[9 - k];
+  for (size_t i = 0; i < n; ++i) xs[10 + i] = in[i * stride];
+  Fir(f, xs, n, m.fir.data());
+  for (int k = 0; k < 10; ++k) m.x[k] = xs[9 + n - k];
 
-namespace {
-
-// Runs `n` frames through the filter pair and adds the squares of the output to the block
-// sums. The feedback terms of the most recent output are added last, so that the chain
-// from one sample to the next is one multiply and one subtraction long.
-template <int C>
-void FilterSpan(const LoudnessFilter& f, double (&xs)[10][2], double (&ys)[10][2], double (&zs)[2][2],
-                double (&sums)[2], const double* in, size_t n) {
-  using L = Lanes<C>;
-  using T = typename L::T;
-  const T b0 = L::Splat(f.b[0]), b1 = L::Splat(f.b[1]), b2 = L::Splat(f.b[2]), b3 = L::Splat(f.b[3]),
-          b4 = L::Splat(f.b[4]), b5 = L::Splat(f.b[5]), b6 = L::Splat(f.b[6]), b7 = L::Splat(f.b[7]),
-          b8 = L::Splat(f.b[8]), b9 = L::Splat(f.b[9]), b10 = L::Splat(f.b[10]);
-  const T a1 = L::Splat(f.a[1]), a2 = L::Splat(f.a[2]), a3 = L::Splat(f.a[3]), a4 = L::Splat(f.a[4]),
-          a5 = L::Splat(f.a[5]), a6 = L::Splat(f.a[6]), a7 = L::Splat(f.a[7]), a8 = L::Splat(f.a[8]),
-          a9 = L::Splat(f.a[9]), a10 = L::Splat(f.a[10]);
-  const T c0 = L::Splat(f.bb[0]), c1 = L::Splat(f.bb[1]), c2 = L::Splat(f.bb[2]);
-  const T d1 = L::Splat(f.ab[1]), d2 = L::Splat(f.ab[2]);
-
-  T x1 = L::Load(xs[0]), x2 = L::Load(xs[1]), x3 = L::Load(xs[2]), x4 = L::Load(xs[3]),
-    x5 = L::Load(xs[4]), x6 = L::Load(xs[5]), x7 = L::Load(xs[6]), x8 = L::Load(xs[7]),
-    x9 = L::Load(xs[8]), x10 = L::Load(xs[9]);
-  T y1 = L::Load(ys[0]), y2 = L::Load(ys[1]), y3 = L::Load(ys[2]), y4 = L::Load(ys[3]),
-    y5 = L::Load(ys[4]), y6 = L::Load(ys[5]), y7 = L::Load(ys[6]), y8 = L::Load(ys[7]),
-    y9 = L::Load(ys[8]), y10 = L::Load(ys[9]);
-  T z1 = L::Load(zs[0]), z2 = L::Load(zs[1]);
-  T sum = L::Load(sums);
-
+  const double a1 = f.a[1], a2 = f.a[2], a3 = f.a[3], a4 = f.a[4], a5 = f.a[5], a6 = f.a[6], a7 = f.a[7],
+               a8 = f.a[8], a9 = f.a[9], a10 = f.a[10];
+  const double c0 = f.bb[0], c1 = f.bb[1], c2 = f.bb[2], d1 = f.ab[1], d2 = f.ab[2];
+  double y1 = m.y[0], y2 = m.y[1], y3 = m.y[2], y4 = m.y[3], y5 = m.y[4], y6 = m.y[5], y7 = m.y[6],
+         y8 = m.y[7], y9 = m.y[8], y10 = m.y[9];
+  double z1 = m.z[0], z2 = m.z[1];
+  double sum = m.sum;
+  const double* fir = m.fir.data();
   for (size_t i = 0; i < n; ++i) {
-    const T x0 = L::Load(in + i * C);
-    const T fir = ((x0 * b0 + x1 * b1) + (x2 * b2 + x3 * b3)) + ((x4 * b4 + x5 * b5) + (x6 * b6 + x7 * b7)) +
-                  ((x8 * b8 + x9 * b9) + x10 * b10);
-    const T back = ((y2 * a2 + y3 * a3) + (y4 * a4 + y5 * a5)) + ((y6 * a6 + y7 * a7) + (y8 * a8 + y9 * a9)) +
-                   y10 * a10;
-    const T y0 = (fir - back) - y1 * a1;
-    const T z0 = (y0 * c0 + (y1 * c1 + y2 * c2 - z2 * d2)) - z1 * d1;
+    const double back = ((y2 * a2 + y3 * a3) + (y4 * a4 + y5 * a5)) + ((y6 * a6 + y7 * a7) + (y8 * a8 + y9 * a9)) +
+                        y10 * a10;
+    const double y0 = (fir[i] - back) - y1 * a1;
+    const double z0 = (y0 * c0 + (y1 * c1 + y2 * c2 - z2 * d2)) - z1 * d1;
     sum += z0 * z0;
-    x10 = x9; x9 = x8; x8 = x7; x7 = x6; x6 = x5; x5 = x4; x4 = x3; x3 = x2; x2 = x1; x1 = x0;
     y10 = y9; y9 = y8; y8 = y7; y7 = y6; y6 = y5; y5 = y4; y4 = y3; y3 = y2; y2 = y1; y1 = y0;
     z2 = z1; z1 = z0;
   }
-
-  L::Store(x1, xs[0]); L::Store(x2, xs[1]); L::Store(x3, xs[2]); L::Store(x4, xs[3]);
-  L::Store(x5, xs[4]); L::Store(x6, xs[5]); L::Store(x7, xs[6]); L::Store(x8, xs[7]);
-  L::Store(x9, xs[8]); L::Store(x10, xs[9]);
-  L::Store(y1, ys[0]); L::Store(y2, ys[1]); L::Store(y3, ys[2]); L::Store(y4, ys[3]);
-  L::Store(y5, ys[4]); L::Store(y6, ys[5]); L::Store(y7, ys[6]); L::Store(y8, ys[7]);
-  L::Store(y9, ys[8]); L::Store(y10, ys[9]);
-  L::Store(z1, zs[0]); L::Store(z2, zs[1]);
-  L::Store(sum, sums);
+  m.y[0] = y1, m.y[1] = y2, m.y[2] = y3, m.y[3] = y4, m.y[4] = y5, m.y[5] = y6, m.y[6] = y7, m.y[7] = y8,
+  m.y[8] = y9, m.y[9] = y10;
+  m.z[0] = z1, m.z[1] = z2;
+  m.sum = sum;
 }
 
 // Histogram slot of a block: hundredths of a dB of its mean square, cut towards zero.
@@ -250,7 +258,76 @@ size_t Slot(double sum, uint32_t frames) {
   return size_t(val);
 }
 
+// Runs jobs on a second thread, one at a time: the right channel's filters while the
+// caller's thread runs the left one's.
+class ChannelThread {
+ public:
+  ~ChannelThread() {
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_quit = true;
+    }
+    m_cv.notify_all();
+    if (m_thread.joinable()) m_thread.join();
+  }
+  // False when no thread could be started.
+  bool Start() {
+    try {
+      m_thread = std::thread([this] { Loop(); });
+    } catch (const std::system_error&) {
+      return false;
+    }
+    return true;
+  }
+  void Post(std::function<void()> job) {
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_job = std::move(job);
+      m_pending = true;
+    }
+    m_cv.notify_all();
+  }
+  void Wait() {
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_cv.wait(lock, [this] { return !m_pending; });
+  }
+
+ private:
+  void Loop() {
+    std::unique_lock<std::mutex> lock(m_mutex);
+    for (;;) {
+      m_cv.wait(lock, [this] { return m_pending || m_quit; });
+      if (m_quit) return;
+      lock.unlock();
+      m_job();
+      lock.lock();
+      m_pending = false;
+      m_cv.notify_all();
+    }
+  }
+
+  std::thread m_thread;
+  std::mutex m_mutex;
+  std::condition_variable m_cv;
+  std::function<void()> m_job;
+  bool m_pending = false;
+  bool m_quit = false;
+};
+
 }  // namespace
+
+struct ReplayGainAnalyser::Memory {
+  ChannelMemory ch[2];
+  std::vector<double> pending;  // interleaved frames not yet filtered
+  std::unique_ptr<ChannelThread> thread;
+  bool noThread = false;        // one core, or no thread could be started
+};
+
+struct ReplayGainAnalyser::Resampler {
+  SwrContext* swr = nullptr;
+  std::vector<double> out;
+  ~Resampler() { swr_free(&swr); }
+};
 
 const LoudnessFilter* FindLoudnessFilter(int sampleRate) {
   for (const LoudnessFilter& f : kFilters)
@@ -291,7 +368,8 @@ bool ReplayGainAnalyser::Init(int sampleRate, int channels) {
   m_blockLength = LoudnessBlockLength(filterRate);
   m_channels = channels;
   m_state = std::make_unique<Memory>();
-  for (int c = 0; c < channels; ++c) m_state->histogram[c].assign(kHistogramBins, 0);
+  for (int c = 0; c < channels; ++c) m_state->ch[c].histogram.assign(kHistogramBins, 0);
+  m_state->noThread = channels < 2 || std::thread::hardware_concurrency() < 2;
   return true;
 }
 
@@ -304,7 +382,7 @@ void ReplayGainAnalyser::Process(const double* samples, size_t frames) {
   }
   m_framesIn += frames;
   if (!m_resampler) {
-    Analyse(samples, frames);
+    Gather(samples, frames);
     return;
   }
   Resampler& r = *m_resampler;
@@ -314,30 +392,75 @@ void ReplayGainAnalyser::Process(const double* samples, size_t frames) {
   uint8_t* out[1] = {reinterpret_cast<uint8_t*>(r.out.data())};
   const uint8_t* in[1] = {reinterpret_cast<const uint8_t*>(samples)};
   const int got = swr_convert(r.swr, out, outCap, in, int(frames));
-  if (got > 0) Analyse(r.out.data(), size_t(got));
+  if (got > 0) Gather(r.out.data(), size_t(got));
+}
+
+void ReplayGainAnalyser::Gather(const double* samples, size_t frames) {
+  std::vector<double>& pending = m_state->pending;
+  if (pending.empty() && frames >= kBatchFrames) {
+    Analyse(samples, frames);
+    return;
+  }
+  pending.insert(pending.end(), samples, samples + frames * m_channels);
+  if (pending.size() >= kBatchFrames * m_channels) Flush();
+}
+
+void ReplayGainAnalyser::Flush() {
+  std::vector<double>& pending = m_state->pending;
+  if (pending.empty()) return;
+  Analyse(pending.data(), pending.size() / m_channels);
+  pending.clear();
+}
+
+void ReplayGainAnalyser::AnalyseChannel(int c, const double* samples, size_t frames) {
+  ChannelMemory& m = m_state->ch[c];
+  uint32_t fill = m_blockFill;
+  const double* in = samples + c;
+  while (frames > 0) {
+    const size_t span = std::min<size_t>(frames, m_blockLength - fill);
+    FilterSpan(*m_filter, m, in, size_t(m_channels), span);
+    in += span * m_channels;
+    frames -= span;
+    fill += uint32_t(span);
+    if (fill == m_blockLength) {
+      m.histogram[Slot(m.sum, fill)]++;
+      m.sum = 0;
+      fill = 0;
+    }
+  }
 }
 
 void ReplayGainAnalyser::Analyse(const double* samples, size_t frames) {
   Memory& st = *m_state;
-  while (frames > 0) {
-    const size_t span = std::min<size_t>(frames, m_blockLength - m_blockFill);
-    if (m_channels == 2)
-      FilterSpan<2>(*m_filter, st.x, st.y, st.z, st.sum, samples, span);
-    else
-      FilterSpan<1>(*m_filter, st.x, st.y, st.z, st.sum, samples, span);
-    samples += span * m_channels;
-    frames -= span;
-    m_blockFill += uint32_t(span);
-    m_framesFiltered += span;
-    if (m_blockFill == m_blockLength) EndBlock();
+  // The channels are independent: with two, the second runs on a thread of its own.
+  bool threaded = false;
+  if (m_channels == 2 && !st.noThread) {
+    if (!st.thread) {
+      st.thread = std::make_unique<ChannelThread>();
+      if (!st.thread->Start()) {
+        st.thread.reset();
+        st.noThread = true;
+      }
+    }
+    if (st.thread) {
+      st.thread->Post([this, samples, frames] { AnalyseChannel(1, samples, frames); });
+      threaded = true;
+    }
   }
+  AnalyseChannel(0, samples, frames);
+  if (threaded)
+    st.thread->Wait();
+  else if (m_channels == 2)
+    AnalyseChannel(1, samples, frames);
+  m_blockFill = uint32_t((m_blockFill + frames) % m_blockLength);
+  m_framesFiltered += frames;
 }
 
 void ReplayGainAnalyser::EndBlock() {
   Memory& st = *m_state;
   for (int c = 0; c < m_channels; ++c) {
-    st.histogram[c][Slot(st.sum[c], m_blockFill)]++;
-    st.sum[c] = 0;
+    st.ch[c].histogram[Slot(st.ch[c].sum, m_blockFill)]++;
+    st.ch[c].sum = 0;
   }
   m_blockFill = 0;
 }
@@ -352,9 +475,11 @@ void ReplayGainAnalyser::Finish() {
       uint8_t* out[1] = {reinterpret_cast<uint8_t*>(r.out.data())};
       const int got = swr_convert(r.swr, out, outCap, nullptr, 0);
       if (got <= 0) break;
-      Analyse(r.out.data(), size_t(got));
+      Gather(r.out.data(), size_t(got));
     }
   }
+  Flush();
+  m_state->thread.reset();
   // A sound shorter than one block is measured over what it has; otherwise the
   // incomplete last block is left out.
   if (m_framesFiltered < m_blockLength && m_blockFill > 0) EndBlock();
@@ -364,13 +489,13 @@ void ReplayGainAnalyser::Finish() {
 uint64_t ReplayGainAnalyser::Blocks(int channel) const {
   if (!m_state || channel >= m_channels) return 0;
   uint64_t n = 0;
-  for (uint32_t v : m_state->histogram[channel]) n += v;
+  for (uint32_t v : m_state->ch[channel].histogram) n += v;
   return n;
 }
 
 double ReplayGainAnalyser::Gain(int channel) const {
   if (!m_state || channel >= m_channels) return kPinkReference;
-  const std::vector<uint32_t>& h = m_state->histogram[channel];
+  const std::vector<uint32_t>& h = m_state->ch[channel].histogram;
   uint64_t blocks = 0;
   for (uint32_t v : h) blocks += v;
   if (blocks == 0) return kPinkReference;

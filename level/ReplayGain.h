@@ -62,7 +62,12 @@ class ReplayGainAnalyser {
  private:
   struct Memory;
   struct Resampler;
+  // Frames on their way to the filters: gathered into batches, so that the second
+  // channel's thread gets work enough to be worth the hand-over.
+  void Gather(const double* samples, size_t frames);
+  void Flush();
   void Analyse(const double* samples, size_t frames);
+  void AnalyseChannel(int channel, const double* samples, size_t frames);
   void EndBlock();
 
   int m_channels = 0;

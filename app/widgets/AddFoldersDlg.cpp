@@ -38,6 +38,9 @@ CAddFoldersDlg::CAddFoldersDlg(const QString& title, QWidget* owner) : QDialog(o
 }
 
 void CAddFoldersDlg::ShowProcessing(const QString& path) {
+  // A person reads a few paths a second; the walk may pass thousands.
+  if (m_shown.isValid() && m_shown.elapsed() < 40) return;
+  m_shown.restart();
   const QString text = Tonvane::tr("Processing: ") + path;
   m_path->setText(m_path->fontMetrics().elidedText(text, Qt::ElideMiddle, m_path->width()));
   m_path->setAccessibleName(text);

@@ -2,6 +2,7 @@
 // The small modeless dialog over a folder search: the path in work, Pause (which turns
 // into Continue) and Cancel. It only forwards the two commands; the search polls them.
 #include <QDialog>
+#include <QElapsedTimer>
 
 class QLabel;
 class QPushButton;
@@ -30,4 +31,5 @@ class CAddFoldersDlg : public QDialog {
   QPushButton* m_cancel;
   bool m_paused = false;
   bool m_done = false;
+  QElapsedTimer m_shown;
 };

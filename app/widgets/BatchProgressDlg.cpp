@@ -17,6 +17,7 @@
 #include "app/Text.h"
 #include "batch/BatchList.h"
 #include "controls/ProgressBarX.h"
+#include "player/Beep.h"
 
 namespace {
 QString ColourCss(uint32_t colorRef) {
@@ -140,7 +141,7 @@ void CBatchProgress::StartRun() {
     reject();  // nothing checked: the runner has said so
     return;
   }
-  if (!m_summary.cancelled && m_s.m_beep) QApplication::beep();
+  if (!m_summary.cancelled && m_s.m_beep) PlayNotify();
   emit runFinished();
   if (m_closeAfterRun || (!m_summary.cancelled && m_closeWhenDone->isChecked())) accept();
 }

@@ -162,7 +162,15 @@ CBatch::CBatch(Session& s, int batchKind, QWidget* parent)
   m_rightStatus->setAccessibleName(Tonvane::tr(" Total Checked: ").trimmed());
   layout->addLayout(status);
 
-  connect(m_list, &BatchList::totalsChanged, this, &CBatch::UpdateStatus);
+  // The status lines follow the totals at most every 50 ms: a fill of thousands of rows
+  // would otherwise spend its time writing them.
+  auto* statusTimer = new QTimer(this);
+  statusTimer->setSingleShot(true);
+  statusTimer->setInterval(50);
+  connect(statusTimer, &QTimer::timeout, this, &CBatch::UpdateStatus);
+  connect(m_list, &BatchList::totalsChanged, statusTimer, [statusTimer] {
+    if (!statusTimer->isActive()) statusTimer->start();
+  });
   connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { ApplyEnabling(); });
   auto* enabling = new QTimer(this);
   connect(enabling, &QTimer::timeout, this, &CBatch::ApplyEnabling);
@@ -247,6 +255,8 @@ void CBatch::BuildMenus(QVBoxLayout* layout) {
   AddCommand(help, kBatchHelp, Tonvane::tr("Help Tonvane"), QKeySequence("F1"));
 
   action(kBatchUseDatabase)->setChecked(m_s.m_useDatabase != 0);
+  // The Database dialog is the main window's; until it is there the entry stays out of sight.
+  action(kBatchDatabase)->setVisible(false);
   action(kBatchAllCores)->setChecked(Settings::GetInt("BatchAllCores", 1) != 0);
 
   connect(action(kBatchAddFiles), &QAction::triggered, this, &CBatch::OnAddFiles);

@@ -8,6 +8,7 @@ extern "C" {
 #include <libavutil/log.h>
 }
 
+#include "lazy/LazyLibraries.h"
 #include "app/Globals.h"
 #include "app/Prompt.h"
 #include "app/Pump.h"
@@ -17,7 +18,7 @@ extern "C" {
 
 int main(int argc, char** argv) {
   QCoreApplication app(argc, argv);
-  av_log_set_level(AV_LOG_QUIET);
+  WhenLibrariesLoad([] { av_log_set_level(AV_LOG_QUIET); });
   if (argc != 2) {
     std::fprintf(stderr, "usage: %s SOURCE\n", argv[0]);
     return 2;

@@ -218,76 +218,192 @@ Do You want to open a dialog of selection a file?</source>
         <translation>使用的库：</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> 采样位数</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>请稍候，正在搜索文件</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> 声道</translation>
+        <source>Pause</source>
+        <translation>暂停</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> 采样率</translation>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> 音频格式</translation>
+        <source>Continue</source>
+        <translation>继续</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> 大小</translation>
+        <source>Processing: </source>
+        <translation>正在处理：</translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>文件列表</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>调整所有列宽</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>调整列宽</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>批处理...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>正在测试的文件：</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>批量测试...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>预计完成时间：</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>待处理列表包含：</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>批处理完成后关闭窗口</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>已测试：</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>批处理 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>您要打开哪种类型的批处理？</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>批处理类型</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>最大化批处理窗口</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>文件夹：</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>请拖入文件或文件夹（或点击“添加文件”、“添加文件夹”或“添加多个文件夹”）。程序会自动只选择支持的文件。</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> 列表包含： </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> 已检查总数： </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>打开(&amp;O)...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>添加文件(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>添加文件夹(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>添加多个文件夹(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>添加播放列表(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>退出(&amp;X)</translation>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>下移(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>上移(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>全部勾选(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>全部取消勾选(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>全部移除(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>操作(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>测试(&amp;T)</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>批处理(&amp;B)...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>显示(&amp;S)</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>使用数据库(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>清空数据库(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>数据库(&amp;D)...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>播放器(&amp;P)</translation>
+        <source>&amp;Playback</source>
+        <translation>播放(&amp;P)</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Do You want to open a dialog of selection a file?</source>
         <translation>减小</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>静音</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>上一首(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>下一首(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>窗口(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>总在最前(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>选项(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>使用数据库(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>清空数据库(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>数据库(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>使用所有处理器核心(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Tonvane 帮助</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>添加文件 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>添加文件夹 (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>添加多个文件夹 (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>添加播放列表 (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>下移 (Alt+下)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>上移 (Alt+上)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>全部勾选 (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>全部取消勾选 (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>移除 (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>全部移除 (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>帮助 (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>关闭 (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>测试峰值电平</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>测试平均电平</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>批量测试</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>请稍候，正在准备文件列表</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>添加文件 </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>添加播放列表</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>添加文件夹 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>选择多个文件夹</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>添加多个文件夹 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>抱歉，您没有选择任何文件。请选择文件。</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> 采样位数</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> 声道</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> 采样率</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> 音频格式</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> 大小</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>退出(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>批处理(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>播放器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>静音</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>全部重复(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>选项(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>总在最前(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>完成时提示音(&amp;B)</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>关于 Tonvane(&amp;A)...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>工具栏</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>帮助</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>帮助 (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>退出</translation>
     </message>
@@ -402,20 +686,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>文件名：</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>测试</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> 属性</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>测试峰值电平</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>测试平均电平</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Clipping</source>
         <translation>削波</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>播放器</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>打开      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>最大电平 </translation>
     </message>
@@ -571,7 +835,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  声道                </translation>
+        <translation>  声道      </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  音频格式           APE</translation>
+        <translation>  音频格式  APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  音频格式          FLAC</translation>
+        <translation>  音频格式  FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  比特率                 </translation>
+        <translation>  比特率    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  采样率            </translation>
+        <translation>  采样率    </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  音频格式          MPEG-4 AAC LC</translation>
+        <translation>  音频格式  MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  音频格式          MPEG-2 AAC</translation>
+        <translation>  音频格式  MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  音频格式          MPEG-4 ALAC</translation>
+        <translation>  音频格式  MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  比特率                </translation>
+        <translation>  比特率    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  模式                  立体声</translation>
+        <translation>  模式      立体声</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  模式                  联合立体声</translation>
+        <translation>  模式      联合立体声</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  模式                  双声道</translation>
+        <translation>  模式      双声道</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  模式                  单声道</translation>
+        <translation>  模式      单声道</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  大小                    </translation>
+        <translation>  大小      </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  音频格式          Ogg Vorbis</translation>
+        <translation>  音频格式  Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  采样位数        </translation>
+        <translation>  采样位数  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  声道                 </translation>
+        <translation>  声道      </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  采样率             </translation>
+        <translation>  采样率    </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  音频格式          PCM</translation>
+        <translation>  音频格式  PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  采样位数          8</translation>
+        <translation>  采样位数  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  采样位数         16</translation>
+        <translation>  采样位数  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  采样位数         24</translation>
+        <translation>  采样位数  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  采样位数         32</translation>
+        <translation>  采样位数  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  声道                 1</translation>
+        <translation>  声道      1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  声道                 2</translation>
+        <translation>  声道      2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  音频格式          PCM IEEE Float</translation>
+        <translation>  音频格式  PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 找不到。</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>文件夹 </translation>
+        <source>Sorry, but the folder </source>
+        <translation>抱歉，文件夹 </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> 无法读取： </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 已测试</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> 已检查总数： </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> 总计：</translation>
     </message>
@@ -1228,16 +1492,48 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 个文件</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> 列表包含： </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>总时长： </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>抱歉，您没有选择任何文件。因此批量测试已停止。</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> 小时 </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> 分 </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> / </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> 已完成</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>请稍候，正在进行批量测试</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>测试已暂停</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>测试已取消</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>抱歉，打开的文件夹 </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Korištene biblioteke:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bitova po uzorku</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Pričekajte, traže se datoteke</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanali</translation>
+        <source>Pause</source>
+        <translation>Pauza</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frekvencija</translation>
+        <source>Cancel</source>
+        <translation>Odustani</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Zvučni format</translation>
+        <source>Continue</source>
+        <translation>Nastavi</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Veličina</translation>
+        <source>Processing: </source>
+        <translation>Obrada: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Popis datoteka</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Prilagodi sve stupce</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Prilagodi stupac</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Skupna obrada...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test datoteke:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Skupni test...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Predviđeni završetak:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Popis za obradu sadrži:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Zatvori prozor kad skupna obrada završi</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>U redu</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testirano:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Skupna obrada - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Koju vrstu skupne obrade želite otvoriti?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Vrsta skupne obrade</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maksimiziraj prozor skupne obrade</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Mapa:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Pregledaj...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Povucite ovamo datoteke ili mape (ili pritisnite Dodaj datoteke, Dodaj mapu ili Dodaj mape). Program će sam odabrati samo podržane datoteke.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Popis sadrži: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Ukupno provjereno: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datoteka</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Otvori...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Dodaj &amp;datoteke...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Dodaj &amp;mapu...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Dodaj m&amp;ape...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Dodaj &amp;popise za reprodukciju...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Zatvori</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Izlaz</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Uređivanje</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Premjesti do&amp;lje</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Premjesti &amp;gore</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Označi &amp;sve</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Odznači sve</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>U&amp;kloni</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Ukloni sv&amp;e</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>&amp;Radnje</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Skupna obrada...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Prikaz</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Koristi bazu podataka</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>&amp;Očisti bazu podataka</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Baza podataka...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Reproduktor</translation>
+        <source>&amp;Playback</source>
+        <translation>R&amp;eprodukcija</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Tiše</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Bez zvuka</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Pr&amp;ethodna</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Sljedeća</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Pro&amp;zor</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Uvijek na vrhu</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Mogućnosti</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Koristi bazu podataka</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>&amp;Očisti bazu podataka</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Baza podataka...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Koristi sve &amp;jezgre procesora</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Pomoć</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Pomoć za Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Alatna traka</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Dodaj datoteke (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Dodaj mapu (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Dodaj mape (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Dodaj popise za reprodukciju (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Premjesti dolje (Alt+Dolje)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Premjesti gore (Alt+Gore)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Označi sve (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Odznači sve (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Ukloni (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Ukloni sve (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Pomoć (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Zatvori (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test vršne razine</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test prosječne razine</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Skupni test</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Reproduktor</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Pričekajte, priprema se popis datoteka</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Dodaj datoteke </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Dodaj popise za reprodukciju</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Odaberite mapu</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Dodaj mapu - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Odaberite mape</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Dodaj mape - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Nažalost, niste odabrali nijednu datoteku. Odaberite datoteku.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bitova po uzorku</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanali</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frekvencija</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Zvučni format</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Veličina</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Otvori...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Izlaz</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Skupna obrada...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Prikaz</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Reproduktor</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Bez zvuka</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Ponovi s&amp;ve</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Mogućnosti</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Uvijek na vrhu</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Zvučni signal na kraju</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Pomoć</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;O programu Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Alatna traka</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Pomoć</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Pomoć (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Izlaz</translation>
     </message>
@@ -402,20 +686,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Naziv datoteke:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Svojstva</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test vršne razine</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test prosječne razine</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Clipping</source>
         <translation>Odsijecanje</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Reproduktor</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Otvori      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Odustani</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Maks. razina </translation>
     </message>
@@ -571,7 +835,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanali              </translation>
+        <translation>  Kanali            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format             APE</translation>
+        <translation>  Format            APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +955,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Brzina bitova          </translation>
+        <translation>  Brzina bitova     </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +995,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Brzina bitova         </translation>
+        <translation>  Brzina bitova     </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Način                 Stereo</translation>
+        <translation>  Način             Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Način                 Združeni stereo</translation>
+        <translation>  Način             Združeni stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Način                 Dvostruki kanal</translation>
+        <translation>  Način             Dvostruki kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Način                 Mono</translation>
+        <translation>  Način             Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Veličina                </translation>
+        <translation>  Veličina          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +1101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bitova po uzorku </translation>
+        <translation>  Bitova po uzorku  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanali               </translation>
+        <translation>  Kanali            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvencija        </translation>
+        <translation>  Frekvencija       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +1139,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bitova po uzorku 16</translation>
+        <translation>  Bitova po uzorku  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bitova po uzorku 24</translation>
+        <translation>  Bitova po uzorku  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bitova po uzorku 32</translation>
+        <translation>  Bitova po uzorku  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +1183,11 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanali               1</translation>
+        <translation>  Kanali            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanali               2</translation>
+        <translation>  Kanali            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
@@ -1112,8 +1376,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> nije pronađena.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>mapa </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Nažalost: mapa </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> ne može se pročitati: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation> testirano</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Ukupno provjereno: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Ukupno:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Do You want to open a dialog of selection a file?</source>
         <translation> datoteka</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Popis sadrži: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Ukupno trajanje: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Nažalost, niste odabrali nijednu datoteku. Stoga je skupni test zaustavljen.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> od </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> dovršeno</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Pričekajte, skupni test je u tijeku</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test je pauziran</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test je otkazan</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Nažalost: otvorena mapa </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Chcete vybrat soubor?</translation>
         <translation>Použité knihovny:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bitů na vzorek</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Čekejte prosím, probíhá hledání souborů</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanály</translation>
+        <source>Pause</source>
+        <translation>Pozastavit</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Vzorkovací frekvence</translation>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Zvukový formát</translation>
+        <source>Continue</source>
+        <translation>Pokračovat</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Velikost</translation>
+        <source>Processing: </source>
+        <translation>Zpracování: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Seznam souborů</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Přizpůsobit všechny sloupce</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Přizpůsobit sloupec</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Dávkové zpracování...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test souboru:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Dávkový test...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Předpokládané dokončení:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Seznam ke zpracování obsahuje:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Zavřít okno po dokončení dávkového zpracování</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Otestováno:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Dávkové zpracování - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Jaký typ dávkového zpracování chcete otevřít?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Typ dávkového zpracování</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maximalizovat okno dávkového zpracování</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Složka:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procházet...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Přetáhněte sem soubory nebo složky (nebo stiskněte Přidat soubory, Přidat složku či Přidat složky). Program sám vybere jen podporované soubory.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Seznam obsahuje: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Celkem zkontrolováno: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Soubor</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Otevřít...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Přidat so&amp;ubory...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Přidat slo&amp;žku...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Přidat slož&amp;ky...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Přidat sez&amp;namy skladeb...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Zavřít</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Konec</translation>
+        <source>&amp;Edit</source>
+        <translation>Úp&amp;ravy</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Posunout &amp;dolů</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Posunout na&amp;horu</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Označit &amp;vše</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Zrušit označení</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Odebrat</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Odebrat vš&amp;e</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>&amp;Akce</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Dávkové zpracování...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Zobrazit</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Používat databázi</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>&amp;Vyprázdnit databázi</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>Data&amp;báze...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Přehrávač</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Chcete vybrat soubor?</translation>
         <translation>Tišeji</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Ztlumit</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Př&amp;edchozí</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Další</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>O&amp;kno</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Vždy &amp;navrchu</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Možnosti</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Používat databázi</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>&amp;Vyprázdnit databázi</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>Data&amp;báze...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Používat všechna &amp;jádra procesoru</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Nápověda</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Nápověda k Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Panel nástrojů</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Přidat soubory (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Přidat složku (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Přidat složky (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Přidat seznamy skladeb (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Posunout dolů (Alt+Dolů)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Posunout nahoru (Alt+Nahoru)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Označit vše (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Zrušit označení (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Odebrat (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Odebrat vše (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Nápověda (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Zavřít (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test špičkové úrovně</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test průměrné úrovně</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Dávkový test</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Přehrávač</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Čekejte prosím, připravuje se seznam souborů</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Přidat soubory </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Přidat seznamy skladeb</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Vyberte složku</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Přidat složku - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Vyberte složky</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Přidat složky - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Bohužel, nevybrali jste žádný soubor. Vyberte soubor.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bitů na vzorek</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanály</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Vzorkovací frekvence</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Zvukový formát</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Velikost</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Otevřít...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Konec</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Dávkové zpracování...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zobrazit</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Přehrávač</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Ztlumit</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Chcete vybrat soubor?</translation>
         <translation>Opakovat &amp;vše</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Možnosti</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Vždy &amp;navrchu</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Zvuk po dokončení</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Nápověda</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Chcete vybrat soubor?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;O programu Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Panel nástrojů</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Chcete vybrat soubor?</translation>
         <translation>Nápověda</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Nápověda (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Konec</translation>
     </message>
@@ -402,20 +686,8 @@ Chcete vybrat soubor?</translation>
         <translation>Název souboru:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Vlastnosti</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test špičkové úrovně</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test průměrné úrovně</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Chcete vybrat soubor?</translation>
     <message>
         <source>Clipping</source>
         <translation>Přebuzení</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Přehrávač</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Chcete vybrat soubor?</translation>
         <translation>Otevřít      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Zrušit</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Max. úroveň </translation>
     </message>
@@ -571,7 +835,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanály              </translation>
+        <translation>  Kanály          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formát             APE</translation>
+        <translation>  Formát          APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Formát            FLAC</translation>
+        <translation>  Formát          FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Datový tok             </translation>
+        <translation>  Datový tok      </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Vzorkování        </translation>
+        <translation>  Vzorkování      </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Formát            MPEG-4 AAC LC</translation>
+        <translation>  Formát          MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Formát            MPEG-2 AAC</translation>
+        <translation>  Formát          MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Formát            MPEG-4 ALAC</translation>
+        <translation>  Formát          MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Datový tok            </translation>
+        <translation>  Datový tok      </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Režim                 Stereo</translation>
+        <translation>  Režim           Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Režim                 Sdružené stereo</translation>
+        <translation>  Režim           Sdružené stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Režim                 Dva kanály</translation>
+        <translation>  Režim           Dva kanály</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Režim                 Mono</translation>
+        <translation>  Režim           Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Velikost                </translation>
+        <translation>  Velikost        </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Formát            Ogg Vorbis</translation>
+        <translation>  Formát          Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +1105,11 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanály               </translation>
+        <translation>  Kanály          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Vzorkování         </translation>
+        <translation>  Vzorkování      </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Formát            PCM</translation>
+        <translation>  Formát          PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bitů na vzorek    8</translation>
+        <translation>  Bitů na vzorek  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bitů na vzorek   16</translation>
+        <translation>  Bitů na vzorek  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bitů na vzorek   24</translation>
+        <translation>  Bitů na vzorek  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bitů na vzorek   32</translation>
+        <translation>  Bitů na vzorek  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Chcete vybrat soubor?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanály               1</translation>
+        <translation>  Kanály          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanály               2</translation>
+        <translation>  Kanály          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Formát            PCM IEEE Float</translation>
+        <translation>  Formát          PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Chcete vybrat soubor?</translation>
         <translation> nebyla nalezena.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>složka </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Bohužel: složku </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> nelze přečíst: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Chcete vybrat soubor?</translation>
         <translation> otestováno</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Celkem zkontrolováno: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Celkem:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Chcete vybrat soubor?</translation>
         <translation> souborů</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Seznam obsahuje: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Celková délka: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Bohužel, nevybrali jste žádné soubory. Dávkový test proto byl zastaven.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> z </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> dokončeno</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Čekejte prosím, probíhá dávkový test</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test je pozastaven</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test je zrušen</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Bohužel: otevřenou složku </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Chcete vybrat soubor?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Vil du vælge en fil?</translation>
         <translation>Anvendte biblioteker:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bit pr. sample</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Vent venligst, der søges efter filer</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanaler</translation>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frekvens</translation>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Lydformat</translation>
+        <source>Continue</source>
+        <translation>Fortsæt</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Størrelse</translation>
+        <source>Processing: </source>
+        <translation>Behandler: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Filliste</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Tilpas alle kolonner</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Tilpas kolonnen</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Batchbehandling...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test af filen:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Batchtest...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Forventet færdig:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Listen til behandling indeholder:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Luk vinduet, når batchbehandlingen er færdig</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testet:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Batchbehandling - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Hvilken type batchbehandling vil du åbne?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Type batchbehandling</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maksimer vinduet til batchbehandling</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Mappe:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Gennemse...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Træk filer eller mapper hertil (eller tryk Tilføj filer, Tilføj mappe eller Tilføj mapper). Programmet vælger selv kun understøttede filer.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Listen indeholder: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Kontrolleret i alt: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Fil</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Åbn...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Tilføj &amp;filer...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Tilføj &amp;mappe...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Tilføj m&amp;apper...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Tilføj afs&amp;pilningslister...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Luk</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>A&amp;fslut</translation>
+        <source>&amp;Edit</source>
+        <translation>R&amp;ediger</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Flyt &amp;ned</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Flyt &amp;op</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Markér a&amp;lle</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Fjern mar&amp;keringer</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Fje&amp;rn</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Fjern all&amp;e</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>Ha&amp;ndlinger</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Batchbehandling...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Vis</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>Brug &amp;database</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>&amp;Ryd database</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>Databa&amp;se...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Afspiller</translation>
+        <source>&amp;Playback</source>
+        <translation>Af&amp;spilning</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Vil du vælge en fil?</translation>
         <translation>Ned</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Lydløs</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>&amp;Forrige</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Næste</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Vindue</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Altid øverst</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Indstillinger</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>Brug &amp;database</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>&amp;Ryd database</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>Databa&amp;se...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Brug alle &amp;processorkerner</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hjælp</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Hjælp til Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Værktøjslinje</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Tilføj filer (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Tilføj mappe (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Tilføj mapper (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Tilføj afspilningslister (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Flyt ned (Alt+Ned)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Flyt op (Alt+Op)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Markér alle (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Fjern markeringer (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Fjern (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Fjern alle (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Hjælp (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Luk (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test spidsniveau</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test gennemsnitsniveau</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Batchtest</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Afspiller</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Vent venligst, fillisten forberedes</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Tilføj filer </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Tilføj afspilningslister</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Vælg mappen</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Tilføj mappe - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Vælg mapperne</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Tilføj mapper - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Beklager, du har ikke valgt nogen fil. Vælg en fil.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bit pr. sample</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanaler</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frekvens</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Lydformat</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Størrelse</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Åbn...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>A&amp;fslut</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Batchbehandling...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Vis</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Afspiller</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Lydløs</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Vil du vælge en fil?</translation>
         <translation>Gentag &amp;alle</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Indstillinger</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Altid øverst</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Bip når færdig</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hjælp</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Vil du vælge en fil?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;Om Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Værktøjslinje</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Vil du vælge en fil?</translation>
         <translation>Hjælp</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Hjælp (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Afslut</translation>
     </message>
@@ -402,20 +686,8 @@ Vil du vælge en fil?</translation>
         <translation>Filnavn:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Egenskaber</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test spidsniveau</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test gennemsnitsniveau</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Vil du vælge en fil?</translation>
     <message>
         <source>Clipping</source>
         <translation>Overstyring</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Afspiller</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Vil du vælge en fil?</translation>
         <translation>Åbn      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuller</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Maks. niveau </translation>
     </message>
@@ -571,7 +835,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanaler             </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Lydformat          APE</translation>
+        <translation>  Lydformat       APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Lydformat         FLAC</translation>
+        <translation>  Lydformat       FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bithastighed           </translation>
+        <translation>  Bithastighed    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frekvens          </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Lydformat         MPEG-4 AAC LC</translation>
+        <translation>  Lydformat       MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Lydformat         MPEG-2 AAC</translation>
+        <translation>  Lydformat       MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Lydformat         MPEG-4 ALAC</translation>
+        <translation>  Lydformat       MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bithastighed          </translation>
+        <translation>  Bithastighed    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Tilstand              Stereo</translation>
+        <translation>  Tilstand        Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Tilstand              Joint stereo</translation>
+        <translation>  Tilstand        Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Tilstand              Dobbelt kanal</translation>
+        <translation>  Tilstand        Dobbelt kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Tilstand              Mono</translation>
+        <translation>  Tilstand        Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Størrelse               </translation>
+        <translation>  Størrelse       </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Lydformat         Ogg Vorbis</translation>
+        <translation>  Lydformat       Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +1105,11 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanaler              </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvens           </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Lydformat         PCM</translation>
+        <translation>  Lydformat       PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bit pr. sample    8</translation>
+        <translation>  Bit pr. sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bit pr. sample   16</translation>
+        <translation>  Bit pr. sample  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bit pr. sample   24</translation>
+        <translation>  Bit pr. sample  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bit pr. sample   32</translation>
+        <translation>  Bit pr. sample  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Vil du vælge en fil?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanaler              1</translation>
+        <translation>  Kanaler         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanaler              2</translation>
+        <translation>  Kanaler         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Lydformat         PCM IEEE Float</translation>
+        <translation>  Lydformat       PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Vil du vælge en fil?</translation>
         <translation> findes ikke.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>mappen </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Beklager: mappen </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> kan ikke læses: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Vil du vælge en fil?</translation>
         <translation> testet</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Kontrolleret i alt: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> I alt:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Vil du vælge en fil?</translation>
         <translation> filer</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Listen indeholder: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Samlet varighed: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Beklager, du har ikke valgt nogen filer. Batchtesten bliver derfor stoppet.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> t </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> af </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> fuldført</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Vent venligst, batchtesten kører</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Testen er sat på pause</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Testen er annulleret</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Beklager: den åbne mappe </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Vil du vælge en fil?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Verwendete Bibliotheken:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bits pro Sample</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Bitte warten, Dateien werden gesucht</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanäle</translation>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Abtastrate</translation>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Audioformat</translation>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Größe</translation>
+        <source>Processing: </source>
+        <translation>Verarbeitung: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Dateiliste</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Alle Spalten anpassen</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Spalte anpassen</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Stapelverarbeitung...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test der Datei:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Stapeltest...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Voraussichtliches Ende:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Zu verarbeiten:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Fenster nach der Stapelverarbeitung schließen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Getestet:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Stapelverarbeitung - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Welche Art von Stapelverarbeitung möchten Sie öffnen?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Art der Stapelverarbeitung</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Fenster der Stapelverarbeitung maximieren</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Ziehen Sie Dateien oder Ordner hierher (oder wählen Sie Dateien, Ordner oder mehrere Ordner hinzufügen). Das Programm nimmt automatisch nur unterstützte Dateien.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Die Liste enthält: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Geprüft insgesamt: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>&amp;Dateien hinzufügen...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>&amp;Ordner hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>&amp;Mehrere Ordner hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>&amp;Wiedergabelisten hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Beenden</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Nach o&amp;ben</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>&amp;Alle auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Auswahl au&amp;fheben</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Alle entfe&amp;rnen</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>A&amp;ktionen</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Stapelverarbeitung...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Anzeige</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>Datenbank &amp;verwenden</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Datenbank &amp;leeren</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Datenbank...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Player</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Leiser</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Stumm</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>&amp;Zurück</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Immer im &amp;Vordergrund</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>Datenbank &amp;verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Datenbank &amp;leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Datenbank...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Alle &amp;Prozessorkerne verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Hilfe zu Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Dateien hinzufügen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Ordner hinzufügen (Strg+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Mehrere Ordner hinzufügen (Strg+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Wiedergabelisten hinzufügen (Strg+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Nach unten (Alt+Unten)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Nach oben (Alt+Oben)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Alle auswählen (Strg+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Auswahl aufheben (Strg+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Entfernen (Entf)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Alle entfernen (Strg+Entf)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Hilfe (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Schließen (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Spitzenpegel testen</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Durchschnittspegel testen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Stapeltest</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Bitte warten, die Dateiliste wird vorbereitet</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Dateien hinzufügen </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Wiedergabelisten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Ordner hinzufügen - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Mehrere Ordner hinzufügen - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Leider haben Sie keine Datei ausgewählt. Bitte wählen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bits pro Sample</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanäle</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Abtastrate</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Audioformat</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Stapelverarbeitung...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeige</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Player</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>&amp;Alle wiederholen</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Optionen</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Immer im &amp;Vordergrund</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>Signal&amp;ton am Ende</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>Ü&amp;ber Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Hilfe</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Hilfe (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Beenden</translation>
     </message>
@@ -402,20 +686,8 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Dateiname:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Eigenschaften</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Spitzenpegel testen</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Durchschnittspegel testen</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>Clipping</source>
         <translation>Übersteuert</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Player</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Öffnen      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Max. Pegel </translation>
     </message>
@@ -571,7 +835,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanäle              </translation>
+        <translation>  Kanäle           </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Audioformat        APE</translation>
+        <translation>  Audioformat      APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Audioformat       FLAC</translation>
+        <translation>  Audioformat      FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Abtastrate        </translation>
+        <translation>  Abtastrate       </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Audioformat       MPEG-4 AAC LC</translation>
+        <translation>  Audioformat      MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Audioformat       MPEG-2 AAC</translation>
+        <translation>  Audioformat      MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Audioformat       MPEG-4 ALAC</translation>
+        <translation>  Audioformat      MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modus                 Stereo</translation>
+        <translation>  Modus            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modus                 Joint Stereo</translation>
+        <translation>  Modus            Joint Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modus                 Zwei Kanäle</translation>
+        <translation>  Modus            Zwei Kanäle</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modus                 Mono</translation>
+        <translation>  Modus            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Größe                   </translation>
+        <translation>  Größe            </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Audioformat       Ogg Vorbis</translation>
+        <translation>  Audioformat      Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits pro Sample </translation>
+        <translation>  Bits pro Sample  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanäle               </translation>
+        <translation>  Kanäle           </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Abtastrate         </translation>
+        <translation>  Abtastrate       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Audioformat       PCM</translation>
+        <translation>  Audioformat      PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +1135,7 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bits pro Sample   8</translation>
+        <translation>  Bits pro Sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +1183,15 @@ Möchten Sie eine Datei auswählen?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanäle               1</translation>
+        <translation>  Kanäle           1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanäle               2</translation>
+        <translation>  Kanäle           2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Audioformat       PCM IEEE Float</translation>
+        <translation>  Audioformat      PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> wurde nicht gefunden.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>Ordner </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Leider: Ordner </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> kann nicht gelesen werden: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> getestet</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Geprüft insgesamt: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Gesamt:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> Dateien</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Die Liste enthält: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Gesamtdauer: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Leider haben Sie keine Dateien ausgewählt. Der Stapeltest wird daher abgebrochen.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> Std. </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> Min. </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> Sek.</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> von </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Bitte warten, der Stapeltest läuft</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test angehalten</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test abgebrochen</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Leider: Ordner </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Bibliotecas en uso:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bits por muestra</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Espere, se están buscando los archivos</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Canales</translation>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frecuencia</translation>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Formato de audio</translation>
+        <source>Continue</source>
+        <translation>Continuar</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Tamaño</translation>
+        <source>Processing: </source>
+        <translation>Procesando: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Lista de archivos</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Ajustar todas las columnas</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Ajustar la columna</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Procesamiento por lotes...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Prueba del archivo:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Prueba por lotes...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Hora estimada de finalización:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>La lista de proceso contiene:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Cerrar la ventana al terminar el procesamiento por lotes</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Probados:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Procesamiento por lotes - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>¿Qué tipo de procesamiento por lotes desea abrir?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Tipo de procesamiento por lotes</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maximizar la ventana del procesamiento por lotes</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Carpeta:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Arrastre archivos o carpetas aquí (o pulse Añadir archivos, Añadir carpeta o Añadir carpetas). El programa elegirá automáticamente solo los archivos compatibles.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> La lista contiene: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Total probados: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Abrir...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Añadir &amp;archivos...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Añadir &amp;carpeta...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Añadir ca&amp;rpetas...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Añadir &amp;listas de reproducción...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Salir</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>S&amp;ubir</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>&amp;Marcar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Desmarcar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Quitar &amp;todo</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>Acc&amp;iones</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Prueba</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Procesamiento por &amp;lotes...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Usar base de datos</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>&amp;Vaciar base de datos</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Base de datos...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Reproductor</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Reproducción</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Bajar</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Silencio</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>&amp;Anterior</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Siempre visible</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Usar base de datos</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>&amp;Vaciar base de datos</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Base de datos...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Usar todos los &amp;núcleos del procesador</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Ayuda de Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Añadir archivos (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Añadir carpeta (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Añadir carpetas (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Añadir listas de reproducción (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Bajar (Alt+Abajo)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Subir (Alt+Arriba)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Marcar todo (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Desmarcar todo (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Quitar (Supr)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Quitar todo (Ctrl+Supr)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Ayuda (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Cerrar (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Nivel de pico</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Nivel medio</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Prueba por lotes</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Reproductor</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Espere, se está preparando la lista de archivos</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Añadir archivos </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Añadir listas de reproducción</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Elija la carpeta</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Añadir carpeta - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Elija las carpetas</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Añadir carpetas - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Lo sentimos, no ha seleccionado ningún archivo. Seleccione un archivo.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bits por muestra</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Canales</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frecuencia</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Formato de audio</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Tamaño</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Procesamiento por &amp;lotes...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Reproductor</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Silencio</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Repetir t&amp;odo</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opciones</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Siempre visible</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Pitido al terminar</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>A&amp;cerca de Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Barra de herramientas</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Ayuda</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Ayuda (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -402,20 +686,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Archivo:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Probar</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Propiedades</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Nivel de pico</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Nivel medio</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Clipping</source>
         <translation>Saturación</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Reproductor</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Abrir      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Nivel máx. </translation>
     </message>
@@ -571,7 +835,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canales             </translation>
+        <translation>  Canales           </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formato            APE</translation>
+        <translation>  Formato           APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +955,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Tasa de bits           </translation>
+        <translation>  Tasa de bits      </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +995,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Tasa de bits          </translation>
+        <translation>  Tasa de bits      </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modo                  Estéreo</translation>
+        <translation>  Modo              Estéreo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modo                  Estéreo conjunto</translation>
+        <translation>  Modo              Estéreo conjunto</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modo                  Canal dual</translation>
+        <translation>  Modo              Canal dual</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modo                  Mono</translation>
+        <translation>  Modo              Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Tamaño                  </translation>
+        <translation>  Tamaño            </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +1101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits por muestra </translation>
+        <translation>  Bits por muestra  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canales              </translation>
+        <translation>  Canales           </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frecuencia         </translation>
+        <translation>  Frecuencia        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +1139,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bits por muestra 16</translation>
+        <translation>  Bits por muestra  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bits por muestra 24</translation>
+        <translation>  Bits por muestra  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bits por muestra 32</translation>
+        <translation>  Bits por muestra  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +1183,11 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canales              1</translation>
+        <translation>  Canales           1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canales              2</translation>
+        <translation>  Canales           2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
@@ -1112,8 +1376,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> no se encuentra.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>la carpeta </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Lo sentimos: la carpeta </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> no se puede leer: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation> probados</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Total probados: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Total:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Do You want to open a dialog of selection a file?</source>
         <translation> archivos</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> La lista contiene: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Duración total: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Lo sentimos, no ha seleccionado ningún archivo. Por eso se detiene la prueba por lotes.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> de </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> completado</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Espere, la prueba por lotes está en curso</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Prueba en pausa</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Prueba cancelada</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Lo sentimos: la carpeta abierta </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Bibliothèques utilisées :</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bits par échantillon</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Veuillez patienter, recherche des fichiers en cours</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Canaux</translation>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Fréquence</translation>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Format audio</translation>
+        <source>Continue</source>
+        <translation>Reprendre</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Taille</translation>
+        <source>Processing: </source>
+        <translation>Traitement : </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Liste des fichiers</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Ajuster toutes les colonnes</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Ajuster la colonne</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Traitement par lots...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test du fichier :</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Test par lots...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Fin estimée :</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>La liste à traiter contient :</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Fermer la fenêtre à la fin du traitement par lots</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testés :</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Traitement par lots - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Quel type de traitement par lots voulez-vous ouvrir ?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Type de traitement par lots</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Agrandir la fenêtre du traitement par lots</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier :</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Faites glisser des fichiers ou des dossiers ici (ou choisissez Ajouter des fichiers, un dossier ou des dossiers). Le programme ne retient que les fichiers pris en charge.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> La liste contient : </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Total vérifié : </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Ouvrir...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Ajouter des &amp;fichiers...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Ajouter un &amp;dossier...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Ajouter des dossi&amp;ers...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Ajouter des &amp;listes de lecture...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Quitter</translation>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Desce&amp;ndre</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>&amp;Cocher tout</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Déc&amp;ocher tout</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Retirer &amp;tout</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>A&amp;ctions</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Traitement par &amp;lots...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Afficher</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Utiliser la base de données</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>&amp;Vider la base de données</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Base de données...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Lecteur</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Moins fort</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Muet</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>P&amp;récédent</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Toujours au &amp;premier plan</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Utiliser la base de données</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>&amp;Vider la base de données</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Base de données...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Utiliser tous les &amp;cœurs du processeur</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Aide de Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Ajouter des fichiers (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Ajouter un dossier (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Ajouter des dossiers (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Ajouter des listes de lecture (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Descendre (Alt+Bas)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Monter (Alt+Haut)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Cocher tout (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Décocher tout (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Retirer (Suppr)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Retirer tout (Ctrl+Suppr)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Aide (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Fermer (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Tester le niveau de crête</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Tester le niveau moyen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Test par lots</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Veuillez patienter, préparation de la liste des fichiers</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Ajouter des fichiers </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Ajouter des listes de lecture</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Choisissez le dossier</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Ajouter un dossier - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Choisissez les dossiers</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Ajouter des dossiers - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Désolé, vous n&apos;avez sélectionné aucun fichier. Sélectionnez un fichier.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bits par échantillon</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Canaux</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Fréquence</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Format audio</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Taille</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Traitement par &amp;lots...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Afficher</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Lecteur</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muet</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Répéter &amp;tout</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Options</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Toujours au &amp;premier plan</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Bip à la fin</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>À &amp;propos de Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Barre d&apos;outils</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Aide</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Aide (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Quitter</translation>
     </message>
@@ -402,20 +686,8 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Nom du fichier :</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Tester</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Propriétés</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Tester le niveau de crête</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Tester le niveau moyen</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source>Clipping</source>
         <translation>Écrêtage</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Lecteur</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Ouvrir      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Niveau max. </translation>
     </message>
@@ -571,7 +835,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canaux              </translation>
+        <translation>  Canaux            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format audio       APE</translation>
+        <translation>  Format audio      APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +955,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Débit                  </translation>
+        <translation>  Débit             </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +995,23 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Débit                 </translation>
+        <translation>  Débit             </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Mode                  Stéréo</translation>
+        <translation>  Mode              Stéréo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Mode                  Stéréo conjointe</translation>
+        <translation>  Mode              Stéréo conjointe</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Mode                  Double canal</translation>
+        <translation>  Mode              Double canal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Mode                  Mono</translation>
+        <translation>  Mode              Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Taille                  </translation>
+        <translation>  Taille            </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +1101,15 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits/échantillon </translation>
+        <translation>  Bits/échantillon  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canaux               </translation>
+        <translation>  Canaux            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Fréquence          </translation>
+        <translation>  Fréquence         </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +1139,15 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bits/échantillon 16</translation>
+        <translation>  Bits/échantillon  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bits/échantillon 24</translation>
+        <translation>  Bits/échantillon  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bits/échantillon 32</translation>
+        <translation>  Bits/échantillon  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +1183,11 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canaux               1</translation>
+        <translation>  Canaux            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canaux               2</translation>
+        <translation>  Canaux            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
@@ -1112,8 +1376,12 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> est introuvable.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>le dossier </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Désolé : le dossier </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> ne peut pas être lu : </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> testé</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Total vérifié : </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Total :</translation>
     </message>
@@ -1228,16 +1492,48 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> fichiers</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> La liste contient : </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Durée totale : </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Désolé, vous n&apos;avez sélectionné aucun fichier. Le test par lots est donc arrêté.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> sur </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> terminé</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Veuillez patienter, test par lots en cours</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test suspendu</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test annulé</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Désolé : le dossier ouvert </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Scegliere un file?</translation>
         <translation>Librerie in uso:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bit per campione</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Attendere, ricerca dei file in corso</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Canali</translation>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frequenza</translation>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Formato audio</translation>
+        <source>Continue</source>
+        <translation>Continua</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Dimensione</translation>
+        <source>Processing: </source>
+        <translation>Elaborazione: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Elenco dei file</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Adatta tutte le colonne</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Adatta la colonna</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Elaborazione in serie...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test del file:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Test in serie...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Fine prevista:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>L&apos;elenco da elaborare contiene:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Chiudi la finestra al termine dell&apos;elaborazione in serie</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testati:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Elaborazione in serie - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Quale tipo di elaborazione in serie aprire?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Tipo di elaborazione in serie</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Massimizza la finestra dell&apos;elaborazione in serie</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Cartella:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Trascinare qui file o cartelle (oppure premere Aggiungi file, Aggiungi cartella o Aggiungi cartelle). Il programma sceglie automaticamente solo i file supportati.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> L&apos;elenco contiene: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Totale verificati: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Apri...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Aggiungi &amp;file...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Aggiungi &amp;cartella...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Aggiungi c&amp;artelle...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Aggiungi &amp;playlist...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Esci</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Sposta &amp;giù</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Sposta s&amp;u</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Seleziona &amp;tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Deseleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Rimuovi tutt&amp;o</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>A&amp;zioni</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Elaborazione in &amp;serie...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostra</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Usa database</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>S&amp;vuota database</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Database...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Riproduttore</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Riproduzione</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Scegliere un file?</translation>
         <translation>Abbassa</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Muto</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Pr&amp;ecedente</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>S&amp;uccessivo</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Finestra</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Sempre in &amp;primo piano</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Usa database</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>S&amp;vuota database</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Database...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Usa tutti i &amp;core del processore</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Guida</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Guida di Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra degli strumenti</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Aggiungi file (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Aggiungi cartella (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Aggiungi cartelle (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Aggiungi playlist (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Sposta giù (Alt+Giù)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Sposta su (Alt+Su)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Seleziona tutto (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Deseleziona tutto (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Rimuovi (Canc)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Rimuovi tutto (Ctrl+Canc)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Guida (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Chiudi (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test livello di picco</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test livello medio</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Test in serie</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Riproduttore</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Attendere, preparazione dell&apos;elenco dei file in corso</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Aggiungi file </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Aggiungi playlist</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Scegliere la cartella</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Aggiungi cartella - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Scegliere le cartelle</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Aggiungi cartelle - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Spiacenti, non è stato selezionato alcun file. Selezionare un file.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bit per campione</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Canali</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frequenza</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Formato audio</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Dimensione</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Apri...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Elaborazione in &amp;serie...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostra</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Riproduttore</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Muto</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Scegliere un file?</translation>
         <translation>Ripeti &amp;tutto</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opzioni</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Sempre in &amp;primo piano</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Segnale acustico alla fine</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Guida</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Scegliere un file?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;Informazioni su Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Barra degli strumenti</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Scegliere un file?</translation>
         <translation>Guida</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Guida (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Esci</translation>
     </message>
@@ -402,20 +686,8 @@ Scegliere un file?</translation>
         <translation>Nome file:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Proprietà</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test livello di picco</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test livello medio</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Scegliere un file?</translation>
     <message>
         <source>Clipping</source>
         <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Riproduttore</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Scegliere un file?</translation>
         <translation>Apri      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Livello max. </translation>
     </message>
@@ -571,7 +835,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canali              </translation>
+        <translation>  Canali            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formato audio      APE</translation>
+        <translation>  Formato audio     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +955,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate           </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +995,23 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate           </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modalità              Stereo</translation>
+        <translation>  Modalità          Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modalità              Joint stereo</translation>
+        <translation>  Modalità          Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modalità              Doppio canale</translation>
+        <translation>  Modalità          Doppio canale</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modalità              Mono</translation>
+        <translation>  Modalità          Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Dimensione              </translation>
+        <translation>  Dimensione        </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +1101,15 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bit per campione </translation>
+        <translation>  Bit per campione  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canali               </translation>
+        <translation>  Canali            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequenza          </translation>
+        <translation>  Frequenza         </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +1139,15 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bit per campione 16</translation>
+        <translation>  Bit per campione  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bit per campione 24</translation>
+        <translation>  Bit per campione  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bit per campione 32</translation>
+        <translation>  Bit per campione  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +1183,11 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canali               1</translation>
+        <translation>  Canali            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canali               2</translation>
+        <translation>  Canali            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
@@ -1112,8 +1376,12 @@ Scegliere un file?</translation>
         <translation> non è stata trovata.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>la cartella </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Spiacenti: la cartella </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> non può essere letta: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Scegliere un file?</translation>
         <translation> testati</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Totale verificati: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Totale:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Scegliere un file?</translation>
         <translation> file</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> L&apos;elenco contiene: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Durata totale: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Spiacenti, non è stato selezionato alcun file. Il test in serie viene quindi interrotto.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> di </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> completato</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Attendere, test in serie in corso</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test sospeso</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test annullato</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Spiacenti: la cartella aperta </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Scegliere un file?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Sorry, but the peak test is not offered for MP3 files; use the average test.</source>
-        <translation>죄송합니다. MP3 파일에는 최대 레벨 테스트가 없습니다. 평균 레벨 테스트를 사용하십시오.</translation>
+        <translation>죄송합니다. MP3 파일에는 피크 레벨 테스트가 없습니다. 평균 레벨 테스트를 사용하십시오.</translation>
     </message>
     <message>
         <source>Sorry, the test is stopped because the file was not opened for it.</source>
@@ -203,7 +203,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Measures how loud audio files are: the peak level and the average level against the 89 dB reference.</source>
-        <translation>오디오 파일의 음량을 측정합니다: 최대 레벨과 89 dB 기준에 대한 평균 레벨.</translation>
+        <translation>오디오 파일의 음량을 측정합니다: 피크 레벨과 89 dB 기준에 대한 평균 레벨.</translation>
     </message>
     <message>
         <source>E-mail:</source>
@@ -218,76 +218,192 @@ Do You want to open a dialog of selection a file?</source>
         <translation>사용 중인 라이브러리:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> 샘플당 비트</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>잠시 기다리십시오. 파일을 찾는 중입니다</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> 채널</translation>
+        <source>Pause</source>
+        <translation>일시 정지</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> 샘플링 속도</translation>
+        <source>Cancel</source>
+        <translation>취소</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> 오디오 형식</translation>
+        <source>Continue</source>
+        <translation>계속</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> 크기</translation>
+        <source>Processing: </source>
+        <translation>처리 중: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>파일 목록</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>모든 열 너비 맞춤</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>열 너비 맞춤</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>일괄 처리...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>테스트 중인 파일:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>일괄 테스트...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>예상 완료 시각:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>처리 목록 항목:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>일괄 처리가 끝나면 창 닫기</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>테스트함:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>일괄 처리 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>어떤 종류의 일괄 처리를 여시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>일괄 처리 종류</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>일괄 처리 창 최대화</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>폴더:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>찾아보기...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>파일이나 폴더를 여기로 끌어 놓으십시오(또는 파일 추가, 폴더 추가, 여러 폴더 추가를 누르십시오). 지원하는 파일만 자동으로 고릅니다.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> 목록 항목: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> 검사한 총계: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>파일(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>열기(&amp;O)...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>파일 추가(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>폴더 추가(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>여러 폴더 추가(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>재생 목록 추가(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>닫기(&amp;C)</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>끝내기(&amp;X)</translation>
+        <source>&amp;Edit</source>
+        <translation>편집(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>아래로 이동(&amp;M)</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>위로 이동(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>모두 선택(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>모두 선택 해제(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>제거(&amp;R)</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>모두 제거(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>작업(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>테스트(&amp;T)</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>일괄 처리(&amp;B)...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>표시(&amp;S)</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>데이터베이스 사용(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>데이터베이스 비우기(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>데이터베이스(&amp;D)...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>플레이어(&amp;P)</translation>
+        <source>&amp;Playback</source>
+        <translation>재생(&amp;P)</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Do You want to open a dialog of selection a file?</source>
         <translation>작게</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>음소거</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>이전(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>다음(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>창(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>항상 위(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>옵션(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>데이터베이스 사용(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>데이터베이스 비우기(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>데이터베이스(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>모든 프로세서 코어 사용(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Tonvane 도움말</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>도구 모음</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>파일 추가 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>폴더 추가 (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>여러 폴더 추가 (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>재생 목록 추가 (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>아래로 이동 (Alt+아래쪽)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>위로 이동 (Alt+위쪽)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>모두 선택 (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>모두 선택 해제 (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>제거 (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>모두 제거 (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>도움말 (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>닫기 (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>피크 레벨 테스트</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>평균 레벨 테스트</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>테스트</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>일괄 테스트</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>플레이어</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>잠시 기다리십시오. 파일 목록을 준비하는 중입니다</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>파일 추가 </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>재생 목록 추가</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>폴더 선택</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>폴더 추가 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>여러 폴더 선택</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>여러 폴더 추가 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>죄송합니다. 파일을 선택하지 않았습니다. 파일을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> 샘플당 비트</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> 채널</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> 샘플링 속도</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> 오디오 형식</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> 크기</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>열기(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>끝내기(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>일괄 처리(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>표시(&amp;S)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>플레이어(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>음소거</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>전체 반복(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>옵션(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>항상 위(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>완료 시 알림음(&amp;B)</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>Tonvane 정보(&amp;A)...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>도구 모음</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>도움말</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>도움말 (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>끝내기</translation>
     </message>
@@ -402,20 +686,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>파일 이름:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>테스트</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> 속성</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>최대 레벨 테스트</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>평균 레벨 테스트</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Clipping</source>
         <translation>클리핑</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>플레이어</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>열기      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>최대 레벨 </translation>
     </message>
@@ -571,7 +835,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  채널                </translation>
+        <translation>  채널         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  오디오 형식        APE</translation>
+        <translation>  오디오 형식  APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  오디오 형식       FLAC</translation>
+        <translation>  오디오 형식  FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  비트 전송률            </translation>
+        <translation>  비트 전송률  </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  샘플링 속도       </translation>
+        <translation>  샘플링 속도  </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  오디오 형식       MPEG-4 AAC LC</translation>
+        <translation>  오디오 형식  MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  오디오 형식       MPEG-2 AAC</translation>
+        <translation>  오디오 형식  MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  오디오 형식       MPEG-4 ALAC</translation>
+        <translation>  오디오 형식  MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  비트 전송률           </translation>
+        <translation>  비트 전송률  </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  모드                  스테레오</translation>
+        <translation>  모드         스테레오</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  모드                  조인트 스테레오</translation>
+        <translation>  모드         조인트 스테레오</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  모드                  듀얼 채널</translation>
+        <translation>  모드         듀얼 채널</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  모드                  모노</translation>
+        <translation>  모드         모노</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  크기                    </translation>
+        <translation>  크기         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  오디오 형식       Ogg Vorbis</translation>
+        <translation>  오디오 형식  Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  샘플당 비트     </translation>
+        <translation>  샘플당 비트  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  채널                 </translation>
+        <translation>  채널         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  샘플링 속도        </translation>
+        <translation>  샘플링 속도  </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  오디오 형식       PCM</translation>
+        <translation>  오디오 형식  PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  샘플당 비트       8</translation>
+        <translation>  샘플당 비트  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  샘플당 비트      16</translation>
+        <translation>  샘플당 비트  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  샘플당 비트      24</translation>
+        <translation>  샘플당 비트  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  샘플당 비트      32</translation>
+        <translation>  샘플당 비트  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  채널                 1</translation>
+        <translation>  채널         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  채널                 2</translation>
+        <translation>  채널         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  오디오 형식       PCM IEEE Float</translation>
+        <translation>  오디오 형식  PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -959,7 +1223,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>(Peak Level)</source>
-        <translation>(최대 레벨)</translation>
+        <translation>(피크 레벨)</translation>
     </message>
     <message>
         <source>(Average Level)</source>
@@ -1112,8 +1376,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>을(를) 찾을 수 없습니다.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>폴더 </translation>
+        <source>Sorry, but the folder </source>
+        <translation>죄송합니다. 폴더 </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation>을(를) 읽을 수 없습니다: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 테스트함</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> 검사한 총계: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> 총계:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Do You want to open a dialog of selection a file?</source>
         <translation>개 파일</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> 목록 항목: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>전체 길이: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>죄송합니다. 선택한 파일이 없습니다. 따라서 일괄 테스트를 중지합니다.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> 시간 </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> 분 </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> 초</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> / </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> 완료</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>잠시 기다리십시오. 일괄 테스트 중입니다</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>테스트 일시 중지됨</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>테스트 취소됨</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>죄송합니다. 열린 폴더 </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Wilt u een bestand kiezen?</translation>
         <translation>Gebruikte bibliotheken:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bits per sample</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Even geduld, bestanden worden gezocht</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanalen</translation>
+        <source>Pause</source>
+        <translation>Pauze</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frequentie</translation>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Audioformaat</translation>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Grootte</translation>
+        <source>Processing: </source>
+        <translation>Verwerken: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Bestandenlijst</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Alle kolommen passend maken</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Kolom passend maken</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Batchverwerking...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test van bestand:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Batchtest...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Verwachte eindtijd:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Te verwerken:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Venster sluiten als de batchverwerking klaar is</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Getest:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Batchverwerking - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Welk soort batchverwerking wilt u openen?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Soort batchverwerking</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Venster van de batchverwerking maximaliseren</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Bladeren...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Sleep bestanden of mappen hierheen (of kies Bestanden, Map of Mappen toevoegen). Het programma kiest automatisch alleen ondersteunde bestanden.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> De lijst bevat: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Totaal gecontroleerd: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Bestand</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Openen...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>&amp;Bestanden toevoegen...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>&amp;Map toevoegen...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>M&amp;appen toevoegen...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Af&amp;speellijsten toevoegen...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Sluiten</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Afsluiten</translation>
+        <source>&amp;Edit</source>
+        <translation>B&amp;ewerken</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Omlaa&amp;g</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Om&amp;hoog</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Alles aanvin&amp;ken</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Alles &amp;uitvinken</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ver&amp;wijderen</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Alles ve&amp;rwijderen</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>Ac&amp;ties</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Batchverwerking...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Weergave</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>Database &amp;gebruiken</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Database &amp;legen</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Database...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Speler</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Afspelen</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Wilt u een bestand kiezen?</translation>
         <translation>Zachter</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Dempen</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>V&amp;orige</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>Vol&amp;gende</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Venster</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Altijd bovenop</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opties</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>Database &amp;gebruiken</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Database &amp;legen</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Database...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Alle &amp;processorkernen gebruiken</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Help bij Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkbalk</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Bestanden toevoegen (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Map toevoegen (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Mappen toevoegen (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Afspeellijsten toevoegen (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Omlaag (Alt+Omlaag)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Omhoog (Alt+Omhoog)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Alles aanvinken (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Alles uitvinken (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Verwijderen (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Alles verwijderen (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Help (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Sluiten (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Piekniveau testen</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Gemiddeld niveau testen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Batchtest</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Speler</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Even geduld, de bestandenlijst wordt voorbereid</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Bestanden toevoegen </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Afspeellijsten toevoegen</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Kies de map</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Map toevoegen - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Kies de mappen</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Mappen toevoegen - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Helaas hebt u geen bestand gekozen. Kies een bestand.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bits per sample</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanalen</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frequentie</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Audioformaat</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Grootte</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Openen...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Batchverwerking...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Weergave</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Speler</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Dempen</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Wilt u een bestand kiezen?</translation>
         <translation>&amp;Alles herhalen</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opties</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Altijd bovenop</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Piepje na afloop</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Help</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;Over Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Werkbalk</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Wilt u een bestand kiezen?</translation>
         <translation>Help</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Help (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Afsluiten</translation>
     </message>
@@ -402,20 +686,8 @@ Wilt u een bestand kiezen?</translation>
         <translation>Bestandsnaam:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Testen</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Eigenschappen</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Piekniveau testen</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Gemiddeld niveau testen</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source>Clipping</source>
         <translation>Oversturing</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Speler</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Wilt u een bestand kiezen?</translation>
         <translation>Openen      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Max. niveau </translation>
     </message>
@@ -571,7 +835,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanalen             </translation>
+        <translation>  Kanalen          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Audioformaat       APE</translation>
+        <translation>  Audioformaat     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Audioformaat      FLAC</translation>
+        <translation>  Audioformaat     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frequentie        </translation>
+        <translation>  Frequentie       </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Audioformaat      MPEG-4 AAC LC</translation>
+        <translation>  Audioformaat     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Audioformaat      MPEG-2 AAC</translation>
+        <translation>  Audioformaat     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Audioformaat      MPEG-4 ALAC</translation>
+        <translation>  Audioformaat     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate          </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modus                 Stereo</translation>
+        <translation>  Modus            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modus                 Joint stereo</translation>
+        <translation>  Modus            Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modus                 Dubbel kanaal</translation>
+        <translation>  Modus            Dubbel kanaal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modus                 Mono</translation>
+        <translation>  Modus            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Grootte                 </translation>
+        <translation>  Grootte          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Audioformaat      Ogg Vorbis</translation>
+        <translation>  Audioformaat     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits per sample </translation>
+        <translation>  Bits per sample  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanalen              </translation>
+        <translation>  Kanalen          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequentie         </translation>
+        <translation>  Frequentie       </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Audioformaat      PCM</translation>
+        <translation>  Audioformaat     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +1135,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bits per sample   8</translation>
+        <translation>  Bits per sample  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +1183,15 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanalen              1</translation>
+        <translation>  Kanalen          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanalen              2</translation>
+        <translation>  Kanalen          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Audioformaat      PCM IEEE Float</translation>
+        <translation>  Audioformaat     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Wilt u een bestand kiezen?</translation>
         <translation> is niet gevonden.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>map </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Helaas: map </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> kan niet worden gelezen: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Wilt u een bestand kiezen?</translation>
         <translation> getest</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Totaal gecontroleerd: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Totaal:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Wilt u een bestand kiezen?</translation>
         <translation> bestanden</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> De lijst bevat: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Totale duur: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Helaas hebt u geen bestanden gekozen. De batchtest wordt daarom gestopt.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> u </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> van </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> voltooid</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Even geduld, de batchtest loopt</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test onderbroken</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test geannuleerd</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Helaas: geopende map </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Vil du velge en fil?</translation>
         <translation>Biblioteker i bruk:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bit per sampel</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Vent litt, filer søkes etter</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanaler</translation>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frekvens</translation>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Lydformat</translation>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Størrelse</translation>
+        <source>Processing: </source>
+        <translation>Behandler: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Filliste</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Tilpass alle kolonner</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Tilpass kolonnen</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Satsvis behandling...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test av filen:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Satsvis test...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Forventet ferdig:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Listen som behandles inneholder:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Lukk vinduet når den satsvise behandlingen er ferdig</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testet:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Satsvis behandling - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Hvilken type satsvis behandling vil du åpne?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Type satsvis behandling</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maksimer vinduet for satsvis behandling</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Mappe:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Bla gjennom...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Dra filer eller mapper hit (eller trykk Legg til filer, Legg til mappe eller Legg til mapper). Programmet velger selv bare støttede filer.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Listen inneholder: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Totalt kontrollert: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Fil</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Åpne...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Legg til &amp;filer...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Legg til &amp;mappe...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Legg til m&amp;apper...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Legg til &amp;spillelister...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Lukk</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Avslutt</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Rediger</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Flytt &amp;ned</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Flytt &amp;opp</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>M&amp;erk alle</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Fjern mer&amp;king</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>F&amp;jern</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Fjern a&amp;lle</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>Ha&amp;ndlinger</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>&amp;Satsvis behandling...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Vis</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Bruk database</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Tø&amp;m database</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Database...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Spiller</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Avspilling</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Vil du velge en fil?</translation>
         <translation>Ned</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Demp</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>&amp;Forrige</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Neste</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Vindu</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Alltid øverst</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Innstillinger</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Bruk database</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Tø&amp;m database</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Database...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Bruk alle &amp;prosessorkjerner</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hjelp</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Hjelp for Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Verktøylinje</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Legg til filer (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Legg til mappe (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Legg til mapper (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Legg til spillelister (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Flytt ned (Alt+Ned)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Flytt opp (Alt+Opp)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Merk alle (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Fjern merking (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Fjern (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Fjern alle (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Hjelp (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Lukk (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test toppnivå</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test gjennomsnittsnivå</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Satsvis test</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Spiller</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Vent litt, fillisten klargjøres</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Legg til filer </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Legg til spillelister</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Velg mappen</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Legg til mappe - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Velg mappene</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Legg til mapper - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Beklager, du har ikke valgt noen fil. Velg en fil.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bit per sampel</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanaler</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frekvens</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Lydformat</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Størrelse</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Åpne...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Avslutt</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>&amp;Satsvis behandling...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Vis</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Spiller</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Demp</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Vil du velge en fil?</translation>
         <translation>Gjenta &amp;alle</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Innstillinger</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Alltid øverst</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Pip når ferdig</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hjelp</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Vil du velge en fil?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;Om Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Verktøylinje</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Vil du velge en fil?</translation>
         <translation>Hjelp</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Hjelp (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Avslutt</translation>
     </message>
@@ -402,20 +686,8 @@ Vil du velge en fil?</translation>
         <translation>Filnavn:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Egenskaper</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test toppnivå</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test gjennomsnittsnivå</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Vil du velge en fil?</translation>
     <message>
         <source>Clipping</source>
         <translation>Overstyring</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Spiller</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Vil du velge en fil?</translation>
         <translation>Åpne      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Avbryt</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Maks. nivå </translation>
     </message>
@@ -571,7 +835,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanaler             </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Lydformat          APE</translation>
+        <translation>  Lydformat       APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Lydformat         FLAC</translation>
+        <translation>  Lydformat       FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitrate                </translation>
+        <translation>  Bitrate         </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frekvens          </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Lydformat         MPEG-4 AAC LC</translation>
+        <translation>  Lydformat       MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Lydformat         MPEG-2 AAC</translation>
+        <translation>  Lydformat       MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Lydformat         MPEG-4 ALAC</translation>
+        <translation>  Lydformat       MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitrate               </translation>
+        <translation>  Bitrate         </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modus                 Stereo</translation>
+        <translation>  Modus           Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modus                 Joint stereo</translation>
+        <translation>  Modus           Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modus                 Dobbel kanal</translation>
+        <translation>  Modus           Dobbel kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modus                 Mono</translation>
+        <translation>  Modus           Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Størrelse               </translation>
+        <translation>  Størrelse       </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Lydformat         Ogg Vorbis</translation>
+        <translation>  Lydformat       Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +1105,11 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanaler              </translation>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvens           </translation>
+        <translation>  Frekvens        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Lydformat         PCM</translation>
+        <translation>  Lydformat       PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bit per sampel    8</translation>
+        <translation>  Bit per sampel  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bit per sampel   16</translation>
+        <translation>  Bit per sampel  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bit per sampel   24</translation>
+        <translation>  Bit per sampel  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bit per sampel   32</translation>
+        <translation>  Bit per sampel  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Vil du velge en fil?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanaler              1</translation>
+        <translation>  Kanaler         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanaler              2</translation>
+        <translation>  Kanaler         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Lydformat         PCM IEEE Float</translation>
+        <translation>  Lydformat       PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Vil du velge en fil?</translation>
         <translation> finnes ikke.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>mappen </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Beklager: mappen </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> kan ikke leses: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Vil du velge en fil?</translation>
         <translation> testet</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Totalt kontrollert: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Totalt:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Vil du velge en fil?</translation>
         <translation> filer</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Listen inneholder: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Total varighet: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Beklager, du har ikke valgt noen filer. Den satsvise testen blir derfor stoppet.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> t </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> av </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> fullført</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Vent litt, satsvis test pågår</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Testen er stanset</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Testen er avbrutt</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Beklager: den åpne mappen </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Vil du velge en fil?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Czy chcesz wybrać plik?</translation>
         <translation>Używane biblioteki:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bity na próbkę</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Proszę czekać, trwa wyszukiwanie plików</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanały</translation>
+        <source>Pause</source>
+        <translation>Wstrzymaj</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Częstotliwość</translation>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Format dźwięku</translation>
+        <source>Continue</source>
+        <translation>Wznów</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Rozmiar</translation>
+        <source>Processing: </source>
+        <translation>Przetwarzanie: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Lista plików</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Dopasuj wszystkie kolumny</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Dopasuj kolumnę</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Przetwarzanie wsadowe...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test pliku:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Test wsadowy...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Przewidywany koniec:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Lista do przetworzenia zawiera:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Zamknij okno po zakończeniu przetwarzania wsadowego</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Przetestowano:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Przetwarzanie wsadowe - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Jaki rodzaj przetwarzania wsadowego otworzyć?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Rodzaj przetwarzania wsadowego</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maksymalizuj okno przetwarzania wsadowego</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Przeglądaj...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Przeciągnij tu pliki lub foldery (albo użyj Dodaj pliki, Dodaj folder lub Dodaj foldery). Program sam wybierze tylko obsługiwane pliki.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Lista zawiera: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Razem sprawdzono: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Plik</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Otwórz...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Dodaj &amp;pliki...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Dodaj &amp;folder...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Dodaj f&amp;oldery...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Dodaj &amp;listy odtwarzania...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Zamknij</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>Za&amp;kończ</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edycja</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Przesuń w &amp;dół</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Przesuń w &amp;górę</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Zazn&amp;acz wszystko</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Od&amp;znacz wszystko</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Usuń &amp;wszystko</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>&amp;Akcje</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Przetwarzanie &amp;wsadowe...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Pokaż</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Używaj bazy danych</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Wy&amp;czyść bazę danych</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Baza danych...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Odtwarzacz</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Odtwarzanie</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Czy chcesz wybrać plik?</translation>
         <translation>Ciszej</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Wycisz</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Poprze&amp;dni</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Następny</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>O&amp;kno</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Zawsze na &amp;wierzchu</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>Op&amp;cje</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Używaj bazy danych</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Wy&amp;czyść bazę danych</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Baza danych...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Używaj wszystkich &amp;rdzeni procesora</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Po&amp;moc</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Pomoc programu Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Pasek narzędzi</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Dodaj pliki (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Dodaj folder (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Dodaj foldery (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Dodaj listy odtwarzania (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Przesuń w dół (Alt+Dół)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Przesuń w górę (Alt+Góra)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Zaznacz wszystko (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Odznacz wszystko (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Usuń (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Usuń wszystko (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Pomoc (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Zamknij (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Test poziomu szczytowego</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Test poziomu średniego</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Test wsadowy</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Odtwarzacz</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Proszę czekać, trwa przygotowanie listy plików</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Dodaj pliki </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Dodaj listy odtwarzania</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Wybierz folder</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Dodaj folder - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Wybierz foldery</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Dodaj foldery - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Niestety, nie wybrano żadnego pliku. Wybierz plik.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bity na próbkę</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanały</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Częstotliwość</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Format dźwięku</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Rozmiar</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Otwórz...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Przetwarzanie &amp;wsadowe...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Pokaż</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Odtwarzacz</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Wycisz</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Czy chcesz wybrać plik?</translation>
         <translation>Powtórz wszystk&amp;o</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>Op&amp;cje</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Zawsze na &amp;wierzchu</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Sygnał po zakończeniu</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Po&amp;moc</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;O programie Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Pasek narzędzi</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Czy chcesz wybrać plik?</translation>
         <translation>Pomoc</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Pomoc (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Zakończ</translation>
     </message>
@@ -402,20 +686,8 @@ Czy chcesz wybrać plik?</translation>
         <translation>Nazwa pliku:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Właściwości</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Test poziomu szczytowego</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Test poziomu średniego</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source>Clipping</source>
         <translation>Przesterowanie</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Odtwarzacz</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Czy chcesz wybrać plik?</translation>
         <translation>Otwórz      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Maks. poziom </translation>
     </message>
@@ -571,7 +835,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanały              </translation>
+        <translation>  Kanały          </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Format             APE</translation>
+        <translation>  Format          APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Format            FLAC</translation>
+        <translation>  Format          FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Przepływność           </translation>
+        <translation>  Przepływność    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Częstotliwość     </translation>
+        <translation>  Częstotliwość   </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Format            MPEG-4 AAC LC</translation>
+        <translation>  Format          MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Format            MPEG-2 AAC</translation>
+        <translation>  Format          MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Format            MPEG-4 ALAC</translation>
+        <translation>  Format          MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Przepływność          </translation>
+        <translation>  Przepływność    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Tryb                  Stereo</translation>
+        <translation>  Tryb            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Tryb                  Joint stereo</translation>
+        <translation>  Tryb            Joint stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Tryb                  Dwa kanały</translation>
+        <translation>  Tryb            Dwa kanały</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Tryb                  Mono</translation>
+        <translation>  Tryb            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Rozmiar                 </translation>
+        <translation>  Rozmiar         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Format            Ogg Vorbis</translation>
+        <translation>  Format          Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -841,11 +1105,11 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanały               </translation>
+        <translation>  Kanały          </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Częstotliwość      </translation>
+        <translation>  Częstotliwość   </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Format            PCM</translation>
+        <translation>  Format          PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bity na próbkę    8</translation>
+        <translation>  Bity na próbkę  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bity na próbkę   16</translation>
+        <translation>  Bity na próbkę  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bity na próbkę   24</translation>
+        <translation>  Bity na próbkę  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bity na próbkę   32</translation>
+        <translation>  Bity na próbkę  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Czy chcesz wybrać plik?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanały               1</translation>
+        <translation>  Kanały          1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanały               2</translation>
+        <translation>  Kanały          2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Format            PCM IEEE Float</translation>
+        <translation>  Format          PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Czy chcesz wybrać plik?</translation>
         <translation> nie został znaleziony.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>folder </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Niestety: folder </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> nie może zostać odczytany: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Czy chcesz wybrać plik?</translation>
         <translation> przetestowano</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Razem sprawdzono: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Razem:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Czy chcesz wybrać plik?</translation>
         <translation> plików</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Lista zawiera: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Łączny czas trwania: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Niestety, nie wybrano żadnych plików. Dlatego test wsadowy został zatrzymany.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> godz. </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> z </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> ukończono</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Proszę czekać, trwa test wsadowy</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test wstrzymany</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test anulowany</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Niestety: otwarty folder </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

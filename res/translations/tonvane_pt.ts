@@ -218,76 +218,192 @@ Deseja escolher um arquivo?</translation>
         <translation>Bibliotecas em uso:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bits por amostra</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Aguarde, procurando os arquivos</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Canais</translation>
+        <source>Pause</source>
+        <translation>Pausar</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frequência</translation>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Formato de áudio</translation>
+        <source>Continue</source>
+        <translation>Continuar</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Tamanho</translation>
+        <source>Processing: </source>
+        <translation>Processando: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Lista de arquivos</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Ajustar todas as colunas</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Ajustar a coluna</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Processamento em lote...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Teste do arquivo:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Teste em lote...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Término previsto:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>A lista de processamento contém:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Fechar a janela ao terminar o processamento em lote</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Testados:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Processamento em lote - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Que tipo de processamento em lote deseja abrir?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Tipo de processamento em lote</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Maximizar a janela do processamento em lote</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Pasta:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Arraste arquivos ou pastas para cá (ou use Adicionar arquivos, Adicionar pasta ou Adicionar pastas). O programa escolhe automaticamente só os arquivos compatíveis.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> A lista contém: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Total verificado: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Arquivo</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Abrir...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Adicionar &amp;arquivos...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Adicionar &amp;pasta...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Adicionar pa&amp;stas...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Adicionar &amp;listas de reprodução...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Fechar</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Sair</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Mover para &amp;baixo</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Mover para &amp;cima</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Marcar &amp;todos</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Desmarcar todos</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Remover t&amp;udo</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>A&amp;ções</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Teste</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Processamento em &amp;lote...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Mostrar</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Usar banco de dados</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Lim&amp;par banco de dados</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Banco de dados...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Reprodutor</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Reprodução</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Deseja escolher um arquivo?</translation>
         <translation>Diminuir</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Mudo</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>A&amp;nterior</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>Pró&amp;ximo</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Ja&amp;nela</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Sempre &amp;visível</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opções</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Usar banco de dados</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Lim&amp;par banco de dados</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Banco de dados...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Usar todos os &amp;núcleos do processador</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;juda</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Ajuda do Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Adicionar arquivos (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Adicionar pasta (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Adicionar pastas (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Adicionar listas de reprodução (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Mover para baixo (Alt+Baixo)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Mover para cima (Alt+Cima)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Marcar todos (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Desmarcar todos (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Remover (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Remover tudo (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Ajuda (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Fechar (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Testar nível de pico</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Testar nível médio</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Teste em lote</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Reprodutor</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Aguarde, preparando a lista de arquivos</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Adicionar arquivos </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Adicionar listas de reprodução</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Escolha a pasta</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Adicionar pasta - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Escolha as pastas</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Adicionar pastas - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Desculpe, você não selecionou nenhum arquivo. Selecione um arquivo.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bits por amostra</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Canais</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frequência</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Formato de áudio</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Tamanho</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Processamento em &amp;lote...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Reprodutor</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Mudo</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Deseja escolher um arquivo?</translation>
         <translation>Repetir &amp;tudo</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Opções</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Sempre &amp;visível</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Bipe ao terminar</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;juda</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>S&amp;obre o Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Barra de ferramentas</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Deseja escolher um arquivo?</translation>
         <translation>Ajuda</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Ajuda (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Sair</translation>
     </message>
@@ -402,20 +686,8 @@ Deseja escolher um arquivo?</translation>
         <translation>Arquivo:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Testar</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Propriedades</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Testar nível de pico</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Testar nível médio</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source>Clipping</source>
         <translation>Saturação</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Reprodutor</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Deseja escolher um arquivo?</translation>
         <translation>Abrir      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Nível máx. </translation>
     </message>
@@ -571,7 +835,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Canais              </translation>
+        <translation>  Canais            </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Formato            APE</translation>
+        <translation>  Formato           APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -691,7 +955,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Taxa de bits           </translation>
+        <translation>  Taxa de bits      </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -731,23 +995,23 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Taxa de bits          </translation>
+        <translation>  Taxa de bits      </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Modo                  Estéreo</translation>
+        <translation>  Modo              Estéreo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Modo                  Estéreo conjunto</translation>
+        <translation>  Modo              Estéreo conjunto</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Modo                  Canal duplo</translation>
+        <translation>  Modo              Canal duplo</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Modo                  Mono</translation>
+        <translation>  Modo              Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Tamanho                 </translation>
+        <translation>  Tamanho           </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -837,15 +1101,15 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bits por amostra </translation>
+        <translation>  Bits por amostra  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Canais               </translation>
+        <translation>  Canais            </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frequência         </translation>
+        <translation>  Frequência        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -875,15 +1139,15 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Bits por amostra 16</translation>
+        <translation>  Bits por amostra  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Bits por amostra 24</translation>
+        <translation>  Bits por amostra  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Bits por amostra 32</translation>
+        <translation>  Bits por amostra  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,11 +1183,11 @@ Deseja escolher um arquivo?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Canais               1</translation>
+        <translation>  Canais            1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Canais               2</translation>
+        <translation>  Canais            2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
@@ -1112,8 +1376,12 @@ Deseja escolher um arquivo?</translation>
         <translation> não foi encontrada.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>a pasta </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Desculpe: a pasta </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> não pode ser lida: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Deseja escolher um arquivo?</translation>
         <translation> testados</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Total verificado: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Total:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Deseja escolher um arquivo?</translation>
         <translation> arquivos</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> A lista contém: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Duração total: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Desculpe, você não selecionou nenhum arquivo. Por isso o teste em lote foi interrompido.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> de </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> concluído</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Aguarde, teste em lote em andamento</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Teste suspenso</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Teste cancelado</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Desculpe: a pasta aberta </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

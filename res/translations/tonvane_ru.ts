@@ -218,76 +218,192 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Используемые библиотеки:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Бит на отсчёт</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Пожалуйста, подождите: идёт поиск файлов</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Каналы</translation>
+        <source>Pause</source>
+        <translation>Пауза</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Частота</translation>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Аудиоформат</translation>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Размер</translation>
+        <source>Processing: </source>
+        <translation>Обработка: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Список файлов</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Подогнать все столбцы</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Подогнать столбец</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Пакетная обработка...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Проверка файла:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Пакетная проверка...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Ожидаемое время окончания:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>В списке обработки:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Закрыть окно по окончании пакетной обработки</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Проверено:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Пакетная обработка - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Какой вид пакетной обработки открыть?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Вид пакетной обработки</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Развернуть окно пакетной обработки</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Папка:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Перетащите сюда файлы, папку или папки (или нажмите «Добавить файлы», «Добавить папку» или «Добавить папки»). Программа сама выберет только поддерживаемые файлы.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> В списке: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Всего проверено: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Открыть...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Добавить &amp;файлы...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Добавить &amp;папку...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Добавить п&amp;апки...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Добавить &amp;списки воспроизведения...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Закрыть</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Выход</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Переместить &amp;вниз</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Переместить вв&amp;ерх</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>&amp;Отметить все</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>Снять о&amp;тметки</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>У&amp;далить все</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>&amp;Действия</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Проверка</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Пакетная &amp;обработка...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>Пока&amp;зывать</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>дБ</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Использовать базу данных</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>О&amp;чистить базу данных</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;База данных...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>П&amp;роигрыватель</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Воспроизведение</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Тише</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Без звука</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>&amp;Предыдущий</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>С&amp;ледующий</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Окно</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Пов&amp;ерх всех окон</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>П&amp;араметры</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Использовать базу данных</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>О&amp;чистить базу данных</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;База данных...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Использовать все &amp;ядра процессора</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Справка Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Добавить файлы (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Добавить папку (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Добавить папки (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Добавить списки воспроизведения (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Переместить вниз (Alt+Вниз)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Переместить вверх (Alt+Вверх)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Отметить все (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Снять отметки (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Удалить (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Удалить все (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Справка (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Закрыть (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Пиковый уровень</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Средний уровень</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Проверка</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Пакетная проверка</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Проигрыватель</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Пожалуйста, подождите: идёт подготовка списка файлов</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Добавить файлы </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Добавить списки воспроизведения</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Выберите папку</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Добавить папку - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Выберите папки</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Добавить папки - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>К сожалению, вы не выбрали ни одного файла. Выберите файл.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Бит на отсчёт</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Каналы</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Частота</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Аудиоформат</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Размер</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Открыть...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Выход</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Пакетная &amp;обработка...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>Пока&amp;зывать</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>дБ</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>П&amp;роигрыватель</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Без звука</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Повтор вс&amp;ех</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>П&amp;араметры</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Пов&amp;ерх всех окон</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Сигнал по окончании</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Справка</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;О программе Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Панель инструментов</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Справка</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Справка (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Выход</translation>
     </message>
@@ -402,20 +686,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Имя файла:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Проверка</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Свойства</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Пиковый уровень</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Средний уровень</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Clipping</source>
         <translation>Перегрузка</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Проигрыватель</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Открыть      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Отмена</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Макс. уровень </translation>
     </message>
@@ -571,7 +835,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Каналы              </translation>
+        <translation>  Каналы         </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Аудиоформат        APE</translation>
+        <translation>  Аудиоформат    APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Аудиоформат       FLAC</translation>
+        <translation>  Аудиоформат    FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Битрейт                </translation>
+        <translation>  Битрейт        </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Частота           </translation>
+        <translation>  Частота        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Аудиоформат       MPEG-4 AAC LC</translation>
+        <translation>  Аудиоформат    MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Аудиоформат       MPEG-2 AAC</translation>
+        <translation>  Аудиоформат    MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Аудиоформат       MPEG-4 ALAC</translation>
+        <translation>  Аудиоформат    MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Битрейт               </translation>
+        <translation>  Битрейт        </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Режим                 Стерео</translation>
+        <translation>  Режим          Стерео</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Режим                 Joint Stereo</translation>
+        <translation>  Режим          Joint Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Режим                 Два канала</translation>
+        <translation>  Режим          Два канала</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Режим                 Моно</translation>
+        <translation>  Режим          Моно</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Размер                  </translation>
+        <translation>  Размер         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Аудиоформат       Ogg Vorbis</translation>
+        <translation>  Аудиоформат    Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Бит на отсчёт   </translation>
+        <translation>  Бит на отсчёт  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Каналы               </translation>
+        <translation>  Каналы         </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Частота            </translation>
+        <translation>  Частота        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Аудиоформат       PCM</translation>
+        <translation>  Аудиоформат    PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Бит на отсчёт     8</translation>
+        <translation>  Бит на отсчёт  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Бит на отсчёт    16</translation>
+        <translation>  Бит на отсчёт  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Бит на отсчёт    24</translation>
+        <translation>  Бит на отсчёт  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Бит на отсчёт    32</translation>
+        <translation>  Бит на отсчёт  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Каналы               1</translation>
+        <translation>  Каналы         1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Каналы               2</translation>
+        <translation>  Каналы         2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Аудиоформат       PCM IEEE Float</translation>
+        <translation>  Аудиоформат    PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> не найдена.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>папка </translation>
+        <source>Sorry, but the folder </source>
+        <translation>К сожалению, папку </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> не удаётся прочитать: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation> проверено</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Всего проверено: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Всего:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Do You want to open a dialog of selection a file?</source>
         <translation> файлов</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> В списке: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Общая длительность: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>К сожалению, вы не выбрали ни одного файла. Поэтому пакетная проверка остановлена.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> ч </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> мин </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> с</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> из </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> выполнено</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Пожалуйста, подождите: идёт пакетная проверка</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Проверка приостановлена</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Проверка отменена</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>К сожалению, открытую папку </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Ali želite izbrati datoteko?</translation>
         <translation>Uporabljene knjižnice:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Bitov na vzorec</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Počakajte, iskanje datotek poteka</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanali</translation>
+        <source>Pause</source>
+        <translation>Premor</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frekvenca</translation>
+        <source>Cancel</source>
+        <translation>Prekliči</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Zvočni zapis</translation>
+        <source>Continue</source>
+        <translation>Nadaljuj</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Velikost</translation>
+        <source>Processing: </source>
+        <translation>Obdelava: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Seznam datotek</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Prilagodi vse stolpce</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Prilagodi stolpec</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Paketna obdelava...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Preizkus datoteke:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Paketni preizkus...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Predviden konec:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>Seznam za obdelavo vsebuje:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Zapri okno, ko se paketna obdelava konča</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>V redu</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Preizkušeno:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Paketna obdelava - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Katero vrsto paketne obdelave želite odpreti?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Vrsta paketne obdelave</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Razpni okno paketne obdelave</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Mapa:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Prebrskaj...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Povlecite sem datoteke ali mape (ali pritisnite Dodaj datoteke, Dodaj mapo ali Dodaj mape). Program sam izbere le podprte datoteke.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Seznam vsebuje: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Skupaj preverjeno: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datoteka</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Odpri...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>Dodaj &amp;datoteke...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>Dodaj &amp;mapo...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>Dodaj m&amp;ape...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>Dodaj &amp;sezname predvajanja...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Zapri</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Izhod</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Urejanje</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>Premakni do&amp;l</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Premakni &amp;gor</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>Označi &amp;vse</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>&amp;Odznači vse</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Odst&amp;rani</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Odstrani vs&amp;e</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>De&amp;janja</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Preizkus</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>Paketna &amp;obdelava...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>Pri&amp;kaz</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>&amp;Uporabi zbirko podatkov</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Po&amp;čisti zbirko podatkov</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Zbirka podatkov...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>P&amp;redvajalnik</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Predvajanje</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Ali želite izbrati datoteko?</translation>
         <translation>Tiše</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Utišaj</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Pr&amp;ejšnja</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Naslednja</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Okno</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>Vedno na &amp;vrhu</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Možnosti</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>&amp;Uporabi zbirko podatkov</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Po&amp;čisti zbirko podatkov</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Zbirka podatkov...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Uporabi vsa &amp;jedra procesorja</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Pomo&amp;č</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Pomoč za Tonvane</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Orodna vrstica</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Dodaj datoteke (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Dodaj mapo (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Dodaj mape (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Dodaj sezname predvajanja (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Premakni dol (Alt+Dol)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Premakni gor (Alt+Gor)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Označi vse (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>Odznači vse (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Odstrani (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Odstrani vse (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Pomoč (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Zapri (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Preizkus vršne ravni</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Preizkus povprečne ravni</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Preizkus</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Paketni preizkus</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Predvajalnik</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Počakajte, pripravlja se seznam datotek</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Dodaj datoteke </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Dodaj sezname predvajanja</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Izberite mapo</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Dodaj mapo - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Izberite mape</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Dodaj mape - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Žal niste izbrali nobene datoteke. Izberite datoteko.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bitov na vzorec</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanali</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frekvenca</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Zvočni zapis</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Velikost</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Odpri...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Izhod</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>Paketna &amp;obdelava...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>Pri&amp;kaz</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>P&amp;redvajalnik</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Utišaj</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Ali želite izbrati datoteko?</translation>
         <translation>Ponovi &amp;vse</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Možnosti</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>Vedno na &amp;vrhu</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Pisk ob koncu</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Pomo&amp;č</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>&amp;O programu Tonvane...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Orodna vrstica</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Ali želite izbrati datoteko?</translation>
         <translation>Pomoč</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Pomoč (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Izhod</translation>
     </message>
@@ -402,20 +686,8 @@ Ali želite izbrati datoteko?</translation>
         <translation>Ime datoteke:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Preizkus</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Lastnosti</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Preizkus vršne ravni</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Preizkus povprečne ravni</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source>Clipping</source>
         <translation>Prekrmiljenje</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Predvajalnik</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Ali želite izbrati datoteko?</translation>
         <translation>Odpri      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Prekliči</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Najv. raven </translation>
     </message>
@@ -571,7 +835,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanali              </translation>
+        <translation>  Kanali           </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Zvočni zapis       APE</translation>
+        <translation>  Zvočni zapis     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Zvočni zapis      FLAC</translation>
+        <translation>  Zvočni zapis     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bitna hitrost          </translation>
+        <translation>  Bitna hitrost    </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Frekvenca         </translation>
+        <translation>  Frekvenca        </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Zvočni zapis      MPEG-4 AAC LC</translation>
+        <translation>  Zvočni zapis     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Zvočni zapis      MPEG-2 AAC</translation>
+        <translation>  Zvočni zapis     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Zvočni zapis      MPEG-4 ALAC</translation>
+        <translation>  Zvočni zapis     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bitna hitrost         </translation>
+        <translation>  Bitna hitrost    </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Način                 Stereo</translation>
+        <translation>  Način            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Način                 Združeni stereo</translation>
+        <translation>  Način            Združeni stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Način                 Dvojni kanal</translation>
+        <translation>  Način            Dvojni kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Način                 Mono</translation>
+        <translation>  Način            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Velikost                </translation>
+        <translation>  Velikost         </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Zvočni zapis      Ogg Vorbis</translation>
+        <translation>  Zvočni zapis     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Bitov na vzorec </translation>
+        <translation>  Bitov na vzorec  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanali               </translation>
+        <translation>  Kanali           </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekvenca          </translation>
+        <translation>  Frekvenca        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Zvočni zapis      PCM</translation>
+        <translation>  Zvočni zapis     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,7 +1135,7 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Bitov na vzorec   8</translation>
+        <translation>  Bitov na vzorec  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
@@ -919,15 +1183,15 @@ Ali želite izbrati datoteko?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanali               1</translation>
+        <translation>  Kanali           1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanali               2</translation>
+        <translation>  Kanali           2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Zvočni zapis      PCM IEEE Float</translation>
+        <translation>  Zvočni zapis     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Ali želite izbrati datoteko?</translation>
         <translation> ni mogoče najti.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>mape </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Žal: mape </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> ni mogoče prebrati: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Ali želite izbrati datoteko?</translation>
         <translation> preizkušeno</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Skupaj preverjeno: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Skupaj:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Ali želite izbrati datoteko?</translation>
         <translation> datotek</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Seznam vsebuje: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Skupno trajanje: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Žal niste izbrali nobene datoteke. Zato je paketni preizkus ustavljen.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> h </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> min </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> od </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> končano</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Počakajte, paketni preizkus poteka</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Preizkus je začasno ustavljen</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Preizkus je preklican</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Žal: odprte mape </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

@@ -218,76 +218,192 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Kullanılan kütüphaneler:</translation>
     </message>
     <message>
-        <source> Bits on Readout</source>
-        <translation> Örnek başına bit</translation>
+        <source>Please, wait the search files is fulfilling</source>
+        <translation>Lütfen bekleyin, dosyalar aranıyor</translation>
     </message>
     <message>
-        <source> Channels</source>
-        <translation> Kanallar</translation>
+        <source>Pause</source>
+        <translation>Duraklat</translation>
     </message>
     <message>
-        <source> Frequency</source>
-        <translation> Frekans</translation>
+        <source>Cancel</source>
+        <translation>İptal</translation>
     </message>
     <message>
-        <source> Audio Format</source>
-        <translation> Ses biçimi</translation>
+        <source>Continue</source>
+        <translation>Devam</translation>
     </message>
     <message>
-        <source> Size</source>
-        <translation> Boyut</translation>
+        <source>Processing: </source>
+        <translation>İşleniyor: </translation>
+    </message>
+    <message>
+        <source>The list of files</source>
+        <translation>Dosya listesi</translation>
+    </message>
+    <message>
+        <source>Size All Columns to Fit</source>
+        <translation>Tüm sütunları sığdır</translation>
+    </message>
+    <message>
+        <source>Size Column To Fit</source>
+        <translation>Sütunu sığdır</translation>
+    </message>
+    <message>
+        <source>Batch Processing...</source>
+        <translation>Toplu İşlem...</translation>
+    </message>
+    <message>
+        <source>Test of the file:</source>
+        <translation>Test edilen dosya:</translation>
+    </message>
+    <message>
+        <source>Batch Test...</source>
+        <translation>Toplu Test...</translation>
+    </message>
+    <message>
+        <source>Estimated time of completion:</source>
+        <translation>Tahmini bitiş:</translation>
+    </message>
+    <message>
+        <source>The list of processing contains:</source>
+        <translation>İşlenecek listede:</translation>
+    </message>
+    <message>
+        <source>Close the window when the Batch Processing is finished</source>
+        <translation>Toplu işlem bitince pencereyi kapat</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Tested:</source>
+        <translation>Test edilen:</translation>
+    </message>
+    <message>
+        <source>Mp3, Wav (MPEG 1.0 Layer III)</source>
+        <translation>Mp3, Wav (MPEG 1.0 Layer III)</translation>
+    </message>
+    <message>
+        <source>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</source>
+        <translation>Mp4, M4a, M4b, M4p, M4r (AAC, ALAC)</translation>
+    </message>
+    <message>
+        <source>Wav (Microsoft Wave RIFF)</source>
+        <translation>Wav (Microsoft Wave RIFF)</translation>
+    </message>
+    <message>
+        <source>FLAC</source>
+        <translation>FLAC</translation>
+    </message>
+    <message>
+        <source>Ogg Vorbis</source>
+        <translation>Ogg Vorbis</translation>
+    </message>
+    <message>
+        <source>APE (Monkey’s Audio)</source>
+        <translation>APE (Monkey’s Audio)</translation>
+    </message>
+    <message>
+        <source>Batch Processor - Tonvane 1.0</source>
+        <translation>Toplu İşlem - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>What type of the Batch Processor do You wish to open?</source>
+        <translation>Hangi tür toplu işlemi açmak istiyorsunuz?</translation>
+    </message>
+    <message>
+        <source>Type of the Batch Processor</source>
+        <translation>Toplu işlem türü</translation>
+    </message>
+    <message>
+        <source>Maximize window of the Batch Processor</source>
+        <translation>Toplu işlem penceresini büyüt</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Klasör:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Gözat...</translation>
+    </message>
+    <message>
+        <source>Please, drag Files, Folder or Folders (or press Add Files, Add Folder or Add Folders). Program will automatically choose only supported files.</source>
+        <translation>Dosyaları veya klasörleri buraya sürükleyin (ya da Dosya ekle, Klasör ekle veya Klasörler ekle düğmesine basın). Program yalnızca desteklenen dosyaları kendisi seçer.</translation>
+    </message>
+    <message>
+        <source> The list contains: </source>
+        <translation> Listede: </translation>
+    </message>
+    <message>
+        <source> Total Checked: </source>
+        <translation> Toplam denetlenen: </translation>
     </message>
     <message>
         <source>&amp;File</source>
         <translation>&amp;Dosya</translation>
     </message>
     <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Aç...</translation>
+        <source>&amp;Add Files...</source>
+        <translation>&amp;Dosya ekle...</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder...</source>
+        <translation>&amp;Klasör ekle...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folders...</source>
+        <translation>K&amp;lasörler ekle...</translation>
+    </message>
+    <message>
+        <source>Add &amp;Playlists...</source>
+        <translation>&amp;Çalma listesi ekle...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Kapat</translation>
     </message>
     <message>
-        <source>&amp;Exit</source>
-        <translation>Çık&amp;ış</translation>
+        <source>&amp;Edit</source>
+        <translation>Dü&amp;zen</translation>
+    </message>
+    <message>
+        <source>&amp;Move Down</source>
+        <translation>&amp;Aşağı taşı</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>&amp;Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>&amp;Check All</source>
+        <translation>&amp;Tümünü işaretle</translation>
+    </message>
+    <message>
+        <source>&amp;Uncheck All</source>
+        <translation>İşa&amp;retleri kaldır</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>R&amp;emove All</source>
+        <translation>Tü&amp;münü sil</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tions</source>
+        <translation>&amp;Eylemler</translation>
     </message>
     <message>
         <source>&amp;Test</source>
         <translation>&amp;Test</translation>
     </message>
     <message>
-        <source>&amp;Batch Processor...</source>
-        <translation>T&amp;oplu İşlem...</translation>
-    </message>
-    <message>
-        <source>&amp;Show</source>
-        <translation>&amp;Göster</translation>
-    </message>
-    <message>
-        <source>%</source>
-        <translation>%</translation>
-    </message>
-    <message>
-        <source>dB</source>
-        <translation>dB</translation>
-    </message>
-    <message>
-        <source>&amp;Use Database</source>
-        <translation>Veritabanını &amp;kullan</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Database</source>
-        <translation>Veritabanını t&amp;emizle</translation>
-    </message>
-    <message>
-        <source>&amp;Database...</source>
-        <translation>&amp;Veritabanı...</translation>
-    </message>
-    <message>
-        <source>&amp;Player</source>
-        <translation>&amp;Oynatıcı</translation>
+        <source>&amp;Playback</source>
+        <translation>&amp;Oynatma</translation>
     </message>
     <message>
         <source>Play / Pa&amp;use</source>
@@ -310,16 +426,204 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Azalt</translation>
     </message>
     <message>
-        <source>Mute</source>
-        <translation>Sessiz</translation>
-    </message>
-    <message>
         <source>P&amp;revious</source>
         <translation>Ö&amp;nceki</translation>
     </message>
     <message>
         <source>&amp;Next</source>
         <translation>S&amp;onraki</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Pencere</translation>
+    </message>
+    <message>
+        <source>&amp;Always on Top</source>
+        <translation>&amp;Her zaman üstte</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Seçenekler</translation>
+    </message>
+    <message>
+        <source>&amp;Use Database</source>
+        <translation>Veritabanını &amp;kullan</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Database</source>
+        <translation>Veritabanını t&amp;emizle</translation>
+    </message>
+    <message>
+        <source>&amp;Database...</source>
+        <translation>&amp;Veritabanı...</translation>
+    </message>
+    <message>
+        <source>Use &amp;All Processor Cores</source>
+        <translation>Tüm işlemci &amp;çekirdeklerini kullan</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Yardım</translation>
+    </message>
+    <message>
+        <source>Help Tonvane</source>
+        <translation>Tonvane Yardımı</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Araç Çubuğu</translation>
+    </message>
+    <message>
+        <source>Add Files (Ctrl+F)</source>
+        <translation>Dosya ekle (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Add Folder (Ctrl+D)</source>
+        <translation>Klasör ekle (Ctrl+D)</translation>
+    </message>
+    <message>
+        <source>Add Folders (Ctrl+Q)</source>
+        <translation>Klasörler ekle (Ctrl+Q)</translation>
+    </message>
+    <message>
+        <source>Add Playlists (Ctrl+M)</source>
+        <translation>Çalma listesi ekle (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Move Down (Alt+Down)</source>
+        <translation>Aşağı taşı (Alt+Aşağı)</translation>
+    </message>
+    <message>
+        <source>Move Up (Alt+Up)</source>
+        <translation>Yukarı taşı (Alt+Yukarı)</translation>
+    </message>
+    <message>
+        <source>Check All (Ctrl+A)</source>
+        <translation>Tümünü işaretle (Ctrl+A)</translation>
+    </message>
+    <message>
+        <source>Uncheck All (Ctrl+B)</source>
+        <translation>İşaretleri kaldır (Ctrl+B)</translation>
+    </message>
+    <message>
+        <source>Remove (Del)</source>
+        <translation>Sil (Del)</translation>
+    </message>
+    <message>
+        <source>Remove All (Ctrl+Del)</source>
+        <translation>Tümünü sil (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Help (F1)</source>
+        <translation>Yardım (F1)</translation>
+    </message>
+    <message>
+        <source>Close (Alt+F4)</source>
+        <translation>Kapat (Alt+F4)</translation>
+    </message>
+    <message>
+        <source>Test Peak Level</source>
+        <translation>Tepe seviyesini test et</translation>
+    </message>
+    <message>
+        <source>Test Average Level</source>
+        <translation>Ortalama seviyeyi test et</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>Batch Test</source>
+        <translation>Toplu Test</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Oynatıcı</translation>
+    </message>
+    <message>
+        <source>Please, wait the preparation of the list files is fulfilling</source>
+        <translation>Lütfen bekleyin, dosya listesi hazırlanıyor</translation>
+    </message>
+    <message>
+        <source>Add Files </source>
+        <translation>Dosya ekle </translation>
+    </message>
+    <message>
+        <source>Add Playlists</source>
+        <translation>Çalma listesi ekle</translation>
+    </message>
+    <message>
+        <source>Select Your Folder</source>
+        <translation>Klasörünüzü seçin</translation>
+    </message>
+    <message>
+        <source>Add Folder - Tonvane 1.0</source>
+        <translation>Klasör ekle - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Select Your Folders</source>
+        <translation>Klasörlerinizi seçin</translation>
+    </message>
+    <message>
+        <source>Add Folders - Tonvane 1.0</source>
+        <translation>Klasörler ekle - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Sorry, but You do not select any file. Select any file.</source>
+        <translation>Üzgünüz, hiç dosya seçmediniz. Bir dosya seçin.</translation>
+    </message>
+    <message>
+        <source> Bits on Readout</source>
+        <translation> Bit derinliği</translation>
+    </message>
+    <message>
+        <source> Channels</source>
+        <translation> Kanallar</translation>
+    </message>
+    <message>
+        <source> Frequency</source>
+        <translation> Frekans</translation>
+    </message>
+    <message>
+        <source> Audio Format</source>
+        <translation> Ses biçimi</translation>
+    </message>
+    <message>
+        <source> Size</source>
+        <translation> Boyut</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Aç...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>Çık&amp;ış</translation>
+    </message>
+    <message>
+        <source>&amp;Batch Processor...</source>
+        <translation>T&amp;oplu İşlem...</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Göster</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>&amp;Player</source>
+        <translation>&amp;Oynatıcı</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Sessiz</translation>
     </message>
     <message>
         <source>&amp;Shuffle</source>
@@ -334,20 +638,8 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>T&amp;ümünü tekrarla</translation>
     </message>
     <message>
-        <source>&amp;Options</source>
-        <translation>&amp;Seçenekler</translation>
-    </message>
-    <message>
-        <source>&amp;Always on Top</source>
-        <translation>&amp;Her zaman üstte</translation>
-    </message>
-    <message>
         <source>&amp;Beep when finished</source>
         <translation>&amp;Bitince bip sesi</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Yardım</translation>
     </message>
     <message>
         <source>Help &amp;Tonvane</source>
@@ -360,10 +652,6 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source>&amp;About Tonvane...</source>
         <translation>Tonvane &amp;Hakkında...</translation>
-    </message>
-    <message>
-        <source>Tool Bar</source>
-        <translation>Araç Çubuğu</translation>
     </message>
     <message>
         <source>Open</source>
@@ -386,10 +674,6 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Yardım</translation>
     </message>
     <message>
-        <source>Help (F1)</source>
-        <translation>Yardım (F1)</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Çıkış</translation>
     </message>
@@ -402,20 +686,8 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Dosya adı:</translation>
     </message>
     <message>
-        <source>Test</source>
-        <translation>Test</translation>
-    </message>
-    <message>
         <source> Property</source>
         <translation> Özellikler</translation>
-    </message>
-    <message>
-        <source>Test Peak Level</source>
-        <translation>Tepe seviyesini test et</translation>
-    </message>
-    <message>
-        <source>Test Average Level</source>
-        <translation>Ortalama seviyeyi test et</translation>
     </message>
     <message>
         <source>Left</source>
@@ -428,10 +700,6 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source>Clipping</source>
         <translation>Kırpılma</translation>
-    </message>
-    <message>
-        <source>Player</source>
-        <translation>Oynatıcı</translation>
     </message>
     <message>
         <source>Play / Pause (Ctrl+U)</source>
@@ -526,10 +794,6 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Aç      </translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
         <source>Max Level </source>
         <translation>Azami seviye </translation>
     </message>
@@ -571,7 +835,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Channels            </source>
-        <translation>  Kanallar            </translation>
+        <translation>  Kanallar       </translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -615,7 +879,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format       APE</source>
-        <translation>  Ses biçimi         APE</translation>
+        <translation>  Ses biçimi     APE</translation>
     </message>
     <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
@@ -635,7 +899,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      FLAC</source>
-        <translation>  Ses biçimi        FLAC</translation>
+        <translation>  Ses biçimi     FLAC</translation>
     </message>
     <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
@@ -691,7 +955,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bit Rate               </source>
-        <translation>  Bit hızı               </translation>
+        <translation>  Bit hızı       </translation>
     </message>
     <message>
         <source> kbps</source>
@@ -699,7 +963,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
-        <translation>  Örnekleme         </translation>
+        <translation>  Örnekleme      </translation>
     </message>
     <message>
         <source> Hz</source>
@@ -707,15 +971,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 AAC LC</source>
-        <translation>  Ses biçimi        MPEG-4 AAC LC</translation>
+        <translation>  Ses biçimi     MPEG-4 AAC LC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-2 AAC</source>
-        <translation>  Ses biçimi        MPEG-2 AAC</translation>
+        <translation>  Ses biçimi     MPEG-2 AAC</translation>
     </message>
     <message>
         <source>  Audio Format      MPEG-4 ALAC</source>
-        <translation>  Ses biçimi        MPEG-4 ALAC</translation>
+        <translation>  Ses biçimi     MPEG-4 ALAC</translation>
     </message>
     <message>
         <source>100% = 89 dB</source>
@@ -731,23 +995,23 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
-        <translation>  Bit hızı              </translation>
+        <translation>  Bit hızı       </translation>
     </message>
     <message>
         <source>  Mode                  Stereo</source>
-        <translation>  Kip                   Stereo</translation>
+        <translation>  Kip            Stereo</translation>
     </message>
     <message>
         <source>  Mode                  Joint Stereo</source>
-        <translation>  Kip                   Ortak stereo</translation>
+        <translation>  Kip            Ortak stereo</translation>
     </message>
     <message>
         <source>  Mode                  Dual Channels</source>
-        <translation>  Kip                   Çift kanal</translation>
+        <translation>  Kip            Çift kanal</translation>
     </message>
     <message>
         <source>  Mode                  Mono</source>
-        <translation>  Kip                   Mono</translation>
+        <translation>  Kip            Mono</translation>
     </message>
     <message>
         <source>  </source>
@@ -775,7 +1039,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Size                    </source>
-        <translation>  Boyut                   </translation>
+        <translation>  Boyut          </translation>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
@@ -787,7 +1051,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      Ogg Vorbis</source>
-        <translation>  Ses biçimi        Ogg Vorbis</translation>
+        <translation>  Ses biçimi     Ogg Vorbis</translation>
     </message>
     <message>
         <source> - Tonvane 1.0</source>
@@ -837,15 +1101,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bits on Readout </source>
-        <translation>  Örnek başına bit </translation>
+        <translation>  Bit derinliği  </translation>
     </message>
     <message>
         <source>  Channels             </source>
-        <translation>  Kanallar             </translation>
+        <translation>  Kanallar       </translation>
     </message>
     <message>
         <source>  Frequency          </source>
-        <translation>  Frekans            </translation>
+        <translation>  Frekans        </translation>
     </message>
     <message>
         <source>A stream of data conversion did not succeed to open</source>
@@ -853,7 +1117,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Audio Format      PCM</source>
-        <translation>  Ses biçimi        PCM</translation>
+        <translation>  Ses biçimi     PCM</translation>
     </message>
     <message>
         <source> Therefore the test is impossible. Please, select other file.
@@ -871,19 +1135,19 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Bits on Readout   8</source>
-        <translation>  Örnek başına bit  8</translation>
+        <translation>  Bit derinliği  8</translation>
     </message>
     <message>
         <source>  Bits on Readout  16</source>
-        <translation>  Örnek başına bit 16</translation>
+        <translation>  Bit derinliği  16</translation>
     </message>
     <message>
         <source>  Bits on Readout  24</source>
-        <translation>  Örnek başına bit 24</translation>
+        <translation>  Bit derinliği  24</translation>
     </message>
     <message>
         <source>  Bits on Readout  32</source>
-        <translation>  Örnek başına bit 32</translation>
+        <translation>  Bit derinliği  32</translation>
     </message>
     <message>
         <source>100% = 41 dB</source>
@@ -919,15 +1183,15 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>  Channels             1</source>
-        <translation>  Kanallar             1</translation>
+        <translation>  Kanallar       1</translation>
     </message>
     <message>
         <source>  Channels             2</source>
-        <translation>  Kanallar             2</translation>
+        <translation>  Kanallar       2</translation>
     </message>
     <message>
         <source>  Audio Format      PCM IEEE Float</source>
-        <translation>  Ses biçimi        PCM IEEE Float</translation>
+        <translation>  Ses biçimi     PCM IEEE Float</translation>
     </message>
     <message>
         <source>Sorry, but for file </source>
@@ -1112,8 +1376,12 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> bulunamıyor.</translation>
     </message>
     <message>
-        <source>the folder </source>
-        <translation>klasör </translation>
+        <source>Sorry, but the folder </source>
+        <translation>Üzgünüz: klasör </translation>
+    </message>
+    <message>
+        <source> cannot be read: </source>
+        <translation> okunamıyor: </translation>
     </message>
     <message>
         <source>№</source>
@@ -1188,10 +1456,6 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> test edildi</translation>
     </message>
     <message>
-        <source> Total Checked: </source>
-        <translation> Toplam denetlenen: </translation>
-    </message>
-    <message>
         <source> Total:</source>
         <translation> Toplam:</translation>
     </message>
@@ -1228,16 +1492,48 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> dosya</translation>
     </message>
     <message>
-        <source> The list contains: </source>
-        <translation> Listede: </translation>
-    </message>
-    <message>
         <source>Total Duration: </source>
         <translation>Toplam süre: </translation>
     </message>
     <message>
         <source>Sorry, but You have not selected any files. Therefore the batch test is stopped.</source>
         <translation>Üzgünüz, hiç dosya seçmediniz. Bu nedenle toplu test durduruldu.</translation>
+    </message>
+    <message>
+        <source> hr </source>
+        <translation> sa </translation>
+    </message>
+    <message>
+        <source> min </source>
+        <translation> dk </translation>
+    </message>
+    <message>
+        <source> sec</source>
+        <translation> sn</translation>
+    </message>
+    <message>
+        <source> from </source>
+        <translation> / </translation>
+    </message>
+    <message>
+        <source> Completed</source>
+        <translation> tamamlandı</translation>
+    </message>
+    <message>
+        <source>Please, wait the batch test is fulfilling</source>
+        <translation>Lütfen bekleyin, toplu test sürüyor</translation>
+    </message>
+    <message>
+        <source>Test is suspended</source>
+        <translation>Test duraklatıldı</translation>
+    </message>
+    <message>
+        <source>Test is cancelled</source>
+        <translation>Test iptal edildi</translation>
+    </message>
+    <message>
+        <source>Sorry, but the open folder </source>
+        <translation>Üzgünüz: açık klasör </translation>
     </message>
     <message>
         <source>Sorry, but test of the volume level was stopped because the file </source>
@@ -1286,10 +1582,6 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source>ABR</source>
         <translation>ABR</translation>
-    </message>
-    <message>
-        <source>Ogg Vorbis</source>
-        <translation>Ogg Vorbis</translation>
     </message>
     <message>
         <source>APE Monkey&apos;s Audio</source>

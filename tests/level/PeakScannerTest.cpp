@@ -508,6 +508,41 @@ TEST(PeakScanner, CancelExitAndPause) {
   EXPECT_EQ(q.s.m_levelLeft, 92.0f);
 }
 
+// A view of 8 MiB or more is read by two threads: extremes in either half count, the bar
+// still makes its steps to 100, and a cancel or a pause reaches both halves.
+TEST(PeakScanner, LargeViewsReadByTwoThreads) {
+  std::vector<int16_t> v = Quiet16(3u << 20);  // 12 MiB of stereo frames
+  v[100] = -20000;                              // left, in the first half
+  v[v.size() - 1] = 31000;                      // right, at the very end of the second
+  const QByteArray data = Samples(v);
+
+  Scanner a;
+  a.PrepareWav(2, 16, 1, data);
+  EXPECT_EQ(a.BytesOf(), unsigned(data.size()));
+  EXPECT_EQ(a.s.m_levelLeft, 61.0f);   // 20000 / 32767
+  EXPECT_EQ(a.s.m_levelRight, 95.0f);  // 31000 / 32767
+  EXPECT_EQ(a.t.pump.lastProgress, 100);
+  EXPECT_EQ(a.t.pump.progressCalls, 100);
+
+  Scanner c;
+  c.PrepareWav(2, 16, 1, data);
+  c.s.m_testRunning = 1;
+  c.t.pump.onPump = [&](int call) {
+    if (call == 3) c.s.m_cancelRequested = 1;
+  };
+  EXPECT_EQ(ScanPeakLevels(c.s), 1);
+  EXPECT_EQ(c.s.m_levelLeft, -1.0f);
+  EXPECT_EQ(c.s.m_testRunning, 0);
+
+  Scanner p;
+  p.PrepareWav(2, 16, 1, data);
+  p.t.pump.onPump = [&](int call) {
+    if (call == 2 || call == 9) p.s.m_pauseToggle = 1;
+  };
+  EXPECT_EQ(p.BytesOf(), unsigned(data.size()));
+  EXPECT_EQ(p.s.m_levelRight, 95.0f);
+}
+
 TEST(PeakProgress, PacingRules) {
   EXPECT_EQ(SingleStepInterval(1000, 30, 1), 1000u / 70);
   EXPECT_EQ(SingleStepInterval(1000, 0, 3), 1000u / 33);

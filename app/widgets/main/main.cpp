@@ -8,6 +8,7 @@ extern "C" {
 #include <clocale>
 #include <cstdio>
 
+#include "lazy/LazyLibraries.h"
 #include "app/Languages.h"
 #include "app/SingleInstance.h"
 #include "app/Themes.h"
@@ -15,6 +16,7 @@ extern "C" {
 #include "app/Text.h"
 #include "app/widgets/Icons.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/MainWindowPlayer.h"
 #include "app/widgets/ShellMenus.h"
 
 int main(int argc, char** argv) {
@@ -29,7 +31,7 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   // The decoders report damage through our own messages; FFmpeg's log lines would only
   // repeat them on the console.
-  av_log_set_level(AV_LOG_QUIET);
+  WhenLibrariesLoad([] { av_log_set_level(AV_LOG_QUIET); });
 
   // The interface language takes effect at start, before the refusal of a second copy can
   // speak: the program's .qm for the stored code and Qt's own for its locale; a missing file
@@ -53,6 +55,7 @@ int main(int argc, char** argv) {
   if (args.size() > 1) file = QFileInfo(args.at(1)).absoluteFilePath();
 
   CBrenlowv10Dlg dlg(file);
+  MainWindowPlayer player(&dlg);
   dlg.resize(760, 600);
   dlg.show();
   return app.exec();
