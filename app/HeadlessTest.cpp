@@ -229,7 +229,10 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   s.m_statusText = Tonvane::tr("  Test of the volume level is fulfilling");
   s.m_cancelRequested = 0;
   s.SetProgress(0);
+  // The title carries the percent form while the test runs (m_savedTitle is the plain one).
+  if (s.m_savedTitle.isEmpty()) s.m_savedTitle = s.m_title;
   auto stop = [&s]() {
+    s.m_title = s.m_savedTitle;
     s.m_testRunning = 0;
     s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
     // A question answered Yes during the test (a work file without sound data) asks for
@@ -237,15 +240,30 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
     if (s.m_openDialogPending) OnFileOpen(s);
     return 0;
   };
+  // The stop sequence: nothing of the file stays open, the user must open it again.
+  auto stopAndDrop = [&s, &stop]() {
+    ClearFileDisplay(s);
+    CloseWorkFile(s);
+    ClearSessionPaths();
+    return stop();
+  };
   // The bar creeps towards 30 percent while the worker still fills the work file.
   int waited = 0;
   while (g_workerBusy.load()) {
     if (!s.PumpMessages() || s.m_exitRequested) return stop();
     QThread::msleep(20);
     if (++waited % 25 == 0 && s.m_progressPercent < 30) s.SetProgress(s.m_progressPercent + 1);
+    if (waited * 20 > kWorkerTimeoutMs) {
+      // The worker still owns the paths; the file is given up, and Test asks for another.
+      s.m_prompt.Message(Tonvane::tr("Sorry, but the test is stopped, because of failure to create a temporal copy of the file ") +
+                         s.m_fileName + Tonvane::tr("."));
+      ClearFileDisplay(s);
+      s.m_fileNotOpened = 1;
+      return stop();
+    }
   }
   JoinWorker();
-  if (g_copyFailed.exchange(0) || g_workPath.isEmpty()) return stop();
+  if (g_copyFailed.exchange(0) || g_workPath.isEmpty()) return stopAndDrop();
   // A FLAC file whose decoder reported errors is not tested, whether or not the log knows it.
   if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName)) return stop();
 
@@ -255,10 +273,18 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   if (LookUpLog(s, key, mode, fromLog)) {
     s.SetProgress(100);
   } else {
-    if (!MeasureWorkFile(s, mode)) return stop();
+    s.m_cancelSeen = 0;
+    if (!MeasureWorkFile(s, mode)) {
+      // The scanner stops alike for a cancel and for a file it cannot read; only the
+      // latter is worth a word.
+      if (mode == 0 && !s.m_cancelSeen && !s.m_exitRequested)
+        s.m_prompt.Message(Tonvane::tr("Sorry, the test is stopped because the file has errors."));
+      return stop();
+    }
     StoreInLog(s, key, mode);
     s.SetProgress(100);
   }
+  s.m_title = s.m_savedTitle;
   s.m_testRunning = 0;
   s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
   s.m_progressShown = 1;

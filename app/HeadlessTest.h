@@ -54,3 +54,5 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
 // clears m_testRunning. 1 when the result stands in the session, 0 when the test stopped
 // (cancel, exit, a failed worker or measurement: the message has been shown).
 int RunTestOnOpenFile(Session& s, bool& fromLog);
+// How long Test waits for the worker before it gives the file up.
+constexpr int kWorkerTimeoutMs = 800000;

@@ -19,6 +19,7 @@ int Session::PumpMessages() {
   if (m_pump) m_pump->ProcessEvents();
   if (m_cancelRequested && !m_testPaused) {
     m_cancelRequested = 0;
+    m_cancelSeen = 1;
     return 0;
   }
   return 1;

@@ -124,6 +124,7 @@ struct Session {
   int m_showDb = 0;
   int m_testRunning = 0;
   int m_cancelRequested = 0;
+  int m_cancelSeen = 0;  // PumpMessages has reported a cancel (a stop that was asked for)
   int m_exitRequested = 0;
   int m_pauseToggle = 0;
   int m_testPaused = 0;

@@ -113,6 +113,10 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
   s.m_sourceKind = KindForOpen(s, path);
 
   CloseWorkFile(s);
+  // Nothing of the previous file's data chunk may reach the scanner of this one.
+  s.m_dataSize = 0;
+  s.m_dataOffset = 0;
+  s.m_formatTag = 0;
   // The previous work file goes, unless it was the previous source read in place.
   if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
   g_workPath.clear();

@@ -34,6 +34,11 @@ DisplayRules RulesFor(int testMode, bool showDb, bool stereo, int bits, bool isM
   return r;
 }
 
+QString LevelBarText(double value, bool showDb, const QString& suffix, bool floatText) {
+  if (!floatText) return QString::asprintf("%d%%", int(value)) + suffix;
+  return (showDb ? QString::asprintf("%1.1f", value) : QString::asprintf("%1.1f%%", value)) + suffix;
+}
+
 LevelShowing ShowResult(Session& s, int currentTop) {
   LevelShowing out;
   const bool stereo = ShowsStereo(s);

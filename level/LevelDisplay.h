@@ -52,6 +52,11 @@ struct DisplayRules {
 };
 DisplayRules RulesFor(int testMode, bool showDb, bool stereo, int bits, bool isMp3);
 
+// The text a level bar carries for a value (its position above the lower end): one
+// decimal, "%" in percent and the suffix (" dB") in dB; a whole number and "%" on a bar
+// without decimals.
+QString LevelBarText(double value, bool showDb, const QString& suffix, bool floatText = true);
+
 // One bar as the end of a test leaves it.
 struct BarShowing {
   bool shown = false;

@@ -14,8 +14,7 @@
 
 namespace {
 
-// Text colour from the model (0x00BBGGRR), also on a selected row so that clipping and
-// bad rows stay readable as such.
+// Text colour from the model (0x00BBGGRR); a selected row keeps the style's highlight text.
 class RowColourDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -27,7 +26,6 @@ class RowColourDelegate : public QStyledItemDelegate {
     if (!c.isValid()) return;
     const QColor colour = QColor::fromRgb(RgbOfColorRef(c.toUInt()));
     option->palette.setColor(QPalette::Text, colour);
-    if (c.toUInt() != 0) option->palette.setColor(QPalette::HighlightedText, colour.lighter(170));
   }
 };
 
@@ -73,6 +71,8 @@ void CBatchListView::SetBatchList(BatchList* list) {
   m_hiddenWidths.assign(size_t(list->columnCount()), 0);
   for (int c = 0; c < list->columnCount(); ++c)
     setColumnWidth(c, list->headerData(c, Qt::Horizontal, BatchList::DefaultWidthRole).toInt());
+  // The number column holds a check box beside the number: room for four digits.
+  setColumnWidth(0, std::max(columnWidth(0), fontMetrics().horizontalAdvance(" 8888") + 30));
 }
 
 void CBatchListView::SortBy(int column) {
@@ -110,8 +110,9 @@ void CBatchListView::ApplyColumnLayout(const std::vector<BatchColumnState>& colu
     if (columns[size_t(c)].position >= 0 && columns[size_t(c)].position < n) order.push_back(c);
   std::sort(order.begin(), order.end(), [&](int a, int b) { return columns[size_t(a)].position < columns[size_t(b)].position; });
   for (int c : order) h->moveSection(h->visualIndex(c), columns[size_t(c)].position);
+  const int numberRoom = fontMetrics().horizontalAdvance(" 8888") + 30;
   for (int c = 0; c < n; ++c) {
-    setColumnWidth(c, columns[size_t(c)].width);
+    setColumnWidth(c, c == 0 ? std::max(columns[0].width, numberRoom) : columns[size_t(c)].width);
     m_hiddenWidths[size_t(c)] = columns[size_t(c)].width;
     SetColumnVisible(c, columns[size_t(c)].visible);
   }

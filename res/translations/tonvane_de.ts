@@ -690,14 +690,6 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> Eigenschaften</translation>
     </message>
     <message>
-        <source>Left</source>
-        <translation>Links</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Rechts</translation>
-    </message>
-    <message>
         <source>Clipping</source>
         <translation>Übersteuert</translation>
     </message>
@@ -1598,6 +1590,42 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono-Kanal: </translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test of the volume level</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -94,6 +98,18 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Test of the volume level is fulfilling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -573,6 +589,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation type="unfinished"></translation>
     </message>
@@ -590,6 +626,10 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -689,15 +729,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clipping</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -757,43 +793,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Max Level </source>
+        <source>Test of the volume level</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -901,11 +901,19 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -917,11 +925,19 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -933,6 +949,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation type="unfinished"></translation>
     </message>
@@ -941,11 +961,19 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1083,11 +1111,11 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> MB</source>
+        <source> GB</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> GB</source>
+        <source>Open      </source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1233,6 +1261,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Max Level </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the test is stopped as the file </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1243,10 +1275,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -1,3 +1,6 @@
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QAccessibleValueInterface>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -16,7 +19,9 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 #include "app/SingleInstance.h"
+#include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/MainDialog.h"
+#include "controls/LevelBar.h"
 #include "support/TestSupport.h"
 #include "widgets/WidgetTestSupport.h"
 
@@ -169,4 +174,69 @@ TEST_F(MainDialogTest, SecondProcessPrintsTheMessageAndEnds) {
   EXPECT_EQ(first.state(), QProcess::Running);
   first.kill();
   first.waitForFinished();
+}
+
+// Screen readers find a name on every control a person can reach, and the level bars tell
+// their value and the text drawn on them.
+TEST_F(MainDialogTest, EveryControlHasAnAccessibleName) {
+  CBrenlowv10Dlg dlg;
+  dlg.show();
+  CDataBase db(dlg.session(), &dlg);
+  int checked = 0;
+  for (QWidget* top : {static_cast<QWidget*>(&dlg), static_cast<QWidget*>(&db)}) {
+    for (QWidget* w : top->findChildren<QWidget*>()) {
+      const bool interactive = qobject_cast<QAbstractButton*>(w) || qobject_cast<QComboBox*>(w) ||
+                               qobject_cast<QAbstractSlider*>(w) || qobject_cast<QAbstractSpinBox*>(w) ||
+                               qobject_cast<LevelBar*>(w);
+      if (!interactive || w->inherits("QMenu")) continue;
+      QAccessibleInterface* a = QAccessible::queryAccessibleInterface(w);
+      ASSERT_NE(a, nullptr);
+      EXPECT_FALSE(a->text(QAccessible::Name).trimmed().isEmpty())
+          << w->metaObject()->className() << " " << w->objectName().toStdString();
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, 20);
+
+  dlg.SetShowDb(1);
+  dlg.bar(0)->SetRange(0, 120);
+  dlg.bar(0)->SetPos(81.24f);
+  QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(dlg.bar(0));
+  EXPECT_EQ(bar->text(QAccessible::Name), "Left Channel");
+  EXPECT_EQ(bar->text(QAccessible::Value), "81.2 dB");
+  ASSERT_NE(bar->valueInterface(), nullptr);
+  EXPECT_NEAR(bar->valueInterface()->currentValue().toDouble(), 81.24, 1e-4);
+  EXPECT_EQ(bar->valueInterface()->maximumValue().toInt(), 120);
+}
+
+// The bar clamps its position to the range, and its tied text is drawn only where the fill
+// holds it.
+TEST_F(MainDialogTest, LevelBarClampsAndTiesItsText) {
+  LevelBar bar;
+  bar.resize(48, 200);
+  bar.SetRange(100, 0);  // a reversed pair is swapped
+  EXPECT_EQ(bar.Upper(), 100);
+  bar.SetPos(130);
+  EXPECT_EQ(bar.Text(), "100.0%");
+  bar.SetPos(-5);
+  EXPECT_EQ(bar.Text(), "0.0%");
+  bar.SetPos(2);
+  bar.SetTiedText(true);
+  EXPECT_FALSE(bar.TextDrawn());
+  bar.SetTiedText(false);
+  EXPECT_TRUE(bar.TextDrawn());
+  bar.SetPos(60);
+  bar.SetTiedText(true);
+  EXPECT_TRUE(bar.TextDrawn());
+}
+
+// Alt+P reaches Beep when finished, which stores the setting; no menu takes the key.
+TEST_F(MainDialogTest, AltPTogglesBeep) {
+  CBrenlowv10Dlg dlg;
+  dlg.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dlg));
+  dlg.activateWindow();
+  QTest::keyClick(&dlg, Qt::Key_P, Qt::AltModifier);
+  EXPECT_TRUE(dlg.action(kCmdBeep)->isChecked());
+  EXPECT_EQ(Settings::Beep(), 1);
 }
