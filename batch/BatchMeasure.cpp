@@ -1,61 +1,83 @@
 #include "batch/BatchMeasure.h"
 
-#include <mutex>
+#include <QFileInfo>
 
-#include "app/HeadlessTest.h"
-#include "app/Session.h"
+#include "app/Job.h"
+#include "app/MeasureFile.h"
+#include "app/Text.h"
 #include "batch/BatchControl.h"
+#include "formats/FlacSource.h"
+#include "app/Session.h"
 
 namespace {
 
-// The single-file road keeps its state in program-wide paths: one file at a time.
-std::mutex g_roadMutex;
-
-// The measurement's poll point: holds it while paused and turns a cancel into the
-// session's cancel request.
-class ControlPump : public IPump {
+// The run's control seen as the measurement's poll point: a pause holds the worker in its
+// checkpoint, a cancel ends the measurement at the next one.
+class ControlAbortable : public IAbortable {
  public:
-  ControlPump(BatchControl& control, Session& s) : m_control(control), m_s(s) {}
-  void ProcessEvents() override {
-    if (!m_control.WorkerPoll()) m_s.m_cancelRequested = 1;
-  }
+  explicit ControlAbortable(BatchControl& control) : m_control(control) {}
+  void Abort() override { m_control.Cancel(); }
+  bool IsAborted() const override { return m_control.IsCancelled(); }
+  bool Checkpoint(double) override { return m_control.WorkerPoll(); }
 
  private:
   BatchControl& m_control;
-  Session& m_s;
 };
+
+// The group of this test; the others keep their not-measured marks.
+LevelResult TakeGroup(const LevelResult& from, int mode, bool showDb) {
+  LevelResult to;
+  if (mode == 1) {
+    to.GainLeft = from.GainLeft;
+    to.GainRight = from.GainRight;
+    to.NoClippingLeft = from.NoClippingLeft;
+    to.NoClippingRight = from.NoClippingRight;
+  } else if (showDb) {
+    to.WavPikLeft = from.WavPikLeft;
+    to.WavPikRight = from.WavPikRight;
+    to.WavPikNoClippingLeft = from.WavPikNoClippingLeft;
+    to.WavPikNoClippingRight = from.WavPikNoClippingRight;
+  } else {
+    to.WavLeft = from.WavLeft;
+    to.WavRight = from.WavRight;
+  }
+  return to;
+}
 
 }  // namespace
 
-bool MeasureForBatchIsParallel() { return false; }
+// The streaming road touches no session and no global: every worker measures at once.
+bool MeasureForBatchIsParallel() { return true; }
 
 BatchMeasureResult MeasureForBatch(const BatchMeasureRequest& request, BatchControl& control) {
   BatchMeasureResult out;
-  std::lock_guard<std::mutex> lock(g_roadMutex);
   if (control.IsCancelled()) {
     out.status = BatchMeasureResult::Cancelled;
     return out;
   }
-  Session s;
-  RecordingPrompt prompt;
-  ControlPump pump(control, s);
-  s.m_prompt.SetUi(&prompt);
-  s.m_pump = &pump;
-  HeadlessOptions o;
-  o.testMode = request.kind == kKindMp3 ? 1 : request.testMode;
-  o.showDb = request.showDb ? 1 : 0;
-  o.useLog = false;
-  const HeadlessReport r = TestFileHeadless(s, prompt, request.path, o);
-  out.channels = r.channels;
-  out.bits = r.bits;
-  out.durationMs = r.durationMs;
-  out.sampleBytes = r.sampleBytesRead;
-  if (r.ok) {
+  const QString full = QFileInfo(request.path).absoluteFilePath();
+  const int mode = request.kind == kKindMp3 ? 1 : request.testMode;
+  ControlAbortable abortable(control);
+  const MeasureReport m = MeasureFile(full, request.kind, mode, abortable);
+  out.channels = m.channels;
+  out.bits = m.bits;
+  out.durationMs = m.durationMs;
+  out.sampleBytes = m.sampleBytes;
+  if (m.status == MeasureStatus::Ok) {
     out.status = BatchMeasureResult::Ok;
-    out.result = r.result;
-  } else {
-    out.status = control.IsCancelled() ? BatchMeasureResult::Cancelled : BatchMeasureResult::Failed;
-    out.error = r.error;
+    out.result = TakeGroup(m.result, mode, request.showDb);
+    return out;
   }
+  if (m.status == MeasureStatus::Stopped || control.IsCancelled()) {
+    out.status = BatchMeasureResult::Cancelled;
+    return out;
+  }
+  out.status = BatchMeasureResult::Failed;
+  if (m.status == MeasureStatus::Damaged && request.kind == kKindFlac && m.flacError != kFlacNoError)
+    out.error = Tonvane::tr("Sorry but the file ") + full + Tonvane::tr(" has errors. ") + FlacStatusText(m.flacError);
+  else if (!m.messages.isEmpty())
+    out.error = m.messages.join('\n');
+  else
+    out.error = Tonvane::tr("Sorry, but the test of the file ") + full + Tonvane::tr(" has failed.");
   return out;
 }
