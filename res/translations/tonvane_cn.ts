@@ -8,6 +8,10 @@
         <translation>本程序是自由软件，依照 GNU 通用公共许可证第 2 版或更高版本发布。本程序不提供任何担保。</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  正在复制文件</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>：无法完成，因为文件不存在。</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>抱歉，MP3 文件不提供峰值电平测试；请使用平均电平测试。</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>测试已停止，因为文件未被打开。</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>抱歉，文件 </translation>
     </message>
@@ -96,6 +96,18 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  正在测试音量电平</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>抱歉，测试已停止，因为无法创建文件的临时副本 </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>。</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>测试已停止，因为文件有错误。</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation>抱歉，您没有选择任何文件。请选择文件。</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>数据库 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>数据库最大大小：</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>数据库当前大小： </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> 采样位数</translation>
     </message>
@@ -592,6 +624,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> Size</source>
         <translation> 大小</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>削波</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>播放/暂停 (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>(毫秒)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  正在复制文件</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>所有文件 (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave 文件 (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3 文件 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC 文件 (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg 文件 (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE 文件 (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC 文件 (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>打开      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>最大电平 </translation>
+        <source>Test of the volume level</source>
+        <translation>音量电平测试</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>初始化 faad 解码库时出错。 </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> 无法创建。</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>在 MP4 文件中找不到正确的 AAC 音轨。</translation>
     </message>
@@ -826,8 +826,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>读取 MP4 文件失败。</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  声道      </translation>
+        <source> cannot be created.</source>
+        <translation> 无法创建。</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> 的声音数据格式不受本程序支持。</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> 文件的声道数多于 2 个。</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  音频格式  APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>抱歉，测试已停止，因为文件 </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> 是空的，不含声音数据。请选择其他文件。
+是否打开文件选择对话框？</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>数据流中的错误导致解码器失去同步。</translation>
     </message>
@@ -894,12 +912,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  音频格式  FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave 文件 (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Wav 批处理 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> 不含任何 Wav 文件。</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3 文件 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 不含任何 Mp3 文件。</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC 文件 (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>FLAC 批处理 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> 不含任何 FLAC 文件。</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg 文件 (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 不含任何 Ogg 文件。</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE 文件 (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>APE 批处理 - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> 不含任何 APE 文件。</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC 文件 (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Mp4 (AAC, ALAC) 批处理 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> 不含任何 Mp4 文件。</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>所有文件 (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> kbps</source>
         <translation> kbps</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  声道      </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> 的声音数据格式不受本程序支持。</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> 文件的声道数多于 2 个。</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> 无法完成。</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>打开      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>抱歉，测试已停止，因为文件 </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> 是空的，不含声音数据。请选择其他文件。
-是否打开文件选择对话框？</translation>
+        <source>Max Level </source>
+        <translation>最大电平 </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> 打开文件的临时副本 </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>数据库当前大小： </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Mono Channel: </source>
         <translation>单声道： </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Ovaj je program slobodni softver pod licencom GNU General Public License, inačica 2 ili novija. Isporučuje se bez ikakvog jamstva.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Kopira se datoteka</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: nije moguće jer datoteka ne postoji.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Nažalost, za MP3 datoteke nema testa vršne razine; upotrijebite test prosječne razine.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Test je zaustavljen jer datoteka nije otvorena za njega.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Nažalost: datoteka </translation>
     </message>
@@ -96,6 +96,18 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Testira se razina glasnoće</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Nažalost, test je zaustavljen jer nije bilo moguće stvoriti privremenu kopiju datoteke </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Test je zaustavljen jer datoteka sadrži pogreške.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Nažalost, niste odabrali nijednu datoteku. Odaberite datoteku.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Baza podataka - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Najveća veličina baze podataka:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Trenutačna veličina baze podataka: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Očisti</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bitova po uzorku</translation>
     </message>
@@ -592,6 +624,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> Size</source>
         <translation> Veličina</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Više</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Odsijecanje</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Položaj</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Reproduciraj / pauza (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Kopira se datoteka</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Sve datoteke (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave datoteke (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3 datoteke (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC datoteke (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg datoteke (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE datoteke (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC datoteke (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Otvori      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Maks. razina </translation>
+        <source>Test of the volume level</source>
+        <translation>Test razine glasnoće</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Pogreška pri pokretanju biblioteke dekodera faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> ne može se stvoriti.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>u MP4 datoteci nije pronađen ispravan AAC zvučni zapis.</translation>
     </message>
@@ -826,8 +826,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Čitanje iz MP4 datoteke nije uspjelo.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanali            </translation>
+        <source> cannot be created.</source>
+        <translation> ne može se stvoriti.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> ima format zvučnih podataka koji program ne podržava.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Datoteka ima više od 2 kanala.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Format            APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Nažalost, test je zaustavljen jer je datoteka </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> prazna i ne sadrži zvučne podatke. Odaberite drugu datoteku.
+Želite li odabrati datoteku?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Pogreška u toku uzrokovala je gubitak sinkronizacije dekodera.</translation>
     </message>
@@ -894,12 +912,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Format            FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave datoteke (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Skupna obrada Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> ne sadrži Wav datoteke.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3 datoteke (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> ne sadrži Mp3 datoteke.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC datoteke (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Skupna obrada FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> ne sadrži FLAC datoteke.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg datoteke (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation> ne sadrži Ogg datoteke.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE datoteke (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Skupna obrada APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> ne sadrži APE datoteke.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC datoteke (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Skupna obrada Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> ne sadrži Mp4 datoteke.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Sve datoteke (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> kbps</source>
         <translation> kbit/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanali            </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> ima format zvučnih podataka koji program ne podržava.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Datoteka ima više od 2 kanala.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> nije bilo moguće provesti.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Otvori      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Nažalost, test je zaustavljen jer je datoteka </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> prazna i ne sadrži zvučne podatke. Odaberite drugu datoteku.
-Želite li odabrati datoteku?</translation>
+        <source>Max Level </source>
+        <translation>Maks. razina </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> otvaranje privremene kopije datoteke </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Trenutačna veličina baze podataka: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Tento program je svobodný software šířený pod licencí GNU General Public License verze 2 nebo novější. Je poskytován bez jakékoli záruky.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Probíhá kopírování souboru</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: není možné, protože soubor neexistuje.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Bohužel, pro soubory MP3 není test špičkové úrovně k dispozici; použijte test průměrné úrovně.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Test byl zastaven, protože soubor pro něj nebyl otevřen.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Bohužel: soubor </translation>
     </message>
@@ -96,6 +96,18 @@ Chcete vybrat soubor?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Probíhá test úrovně hlasitosti</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Bohužel, test byl zastaven, protože nebylo možné vytvořit dočasnou kopii souboru </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Test byl zastaven, protože soubor obsahuje chyby.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Chcete vybrat soubor?</translation>
         <translation>Bohužel, nevybrali jste žádný soubor. Vyberte soubor.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Databáze - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Maximální velikost databáze:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Aktuální velikost databáze: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vyprázdnit</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bitů na vzorek</translation>
     </message>
@@ -592,6 +624,10 @@ Chcete vybrat soubor?</translation>
     <message>
         <source> Size</source>
         <translation> Velikost</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Více</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Chcete vybrat soubor?</translation>
         <translation>Přebuzení</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Pozice</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Přehrát / pozastavit (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Chcete vybrat soubor?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Probíhá kopírování souboru</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Všechny soubory (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Soubory Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Soubory MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Soubory FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Soubory Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Soubory APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Soubory AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Otevřít      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Max. úroveň </translation>
+        <source>Test of the volume level</source>
+        <translation>Test úrovně hlasitosti</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Chcete vybrat soubor?</translation>
         <translation>Chyba při inicializaci knihovny dekodéru faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> nelze vytvořit.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>v souboru MP4 nelze najít platnou zvukovou stopu AAC.</translation>
     </message>
@@ -826,8 +826,16 @@ Chcete vybrat soubor?</translation>
         <translation>Čtení ze souboru MP4 selhalo.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanály          </translation>
+        <source> cannot be created.</source>
+        <translation> nelze vytvořit.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> má formát zvukových dat, který program nepodporuje.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Soubor má více než 2 kanály.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Chcete vybrat soubor?</translation>
         <translation>  Formát          APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Bohužel, test byl zastaven, protože soubor </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> je prázdný a neobsahuje zvuková data. Vyberte prosím jiný soubor.
+Chcete vybrat soubor?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Chyba v proudu způsobila ztrátu synchronizace dekodéru.</translation>
     </message>
@@ -894,12 +912,20 @@ Chcete vybrat soubor?</translation>
         <translation>  Formát          FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Soubory Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Dávkové zpracování Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> neobsahuje žádné soubory Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Soubory MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Chcete vybrat soubor?</translation>
         <translation> neobsahuje žádné soubory Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Soubory FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Dávkové zpracování FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> neobsahuje žádné soubory FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Soubory Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Chcete vybrat soubor?</translation>
         <translation> neobsahuje žádné soubory Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Soubory APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Dávkové zpracování APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Chcete vybrat soubor?</translation>
         <translation> neobsahuje žádné soubory APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Soubory AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Dávkové zpracování Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> neobsahuje žádné soubory Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Všechny soubory (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Chcete vybrat soubor?</translation>
     <message>
         <source> kbps</source>
         <translation> kb/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanály          </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Chcete vybrat soubor?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> má formát zvukových dat, který program nepodporuje.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Soubor má více než 2 kanály.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> nebylo možné provést.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Chcete vybrat soubor?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Otevřít      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Chcete vybrat soubor?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Bohužel, test byl zastaven, protože soubor </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> je prázdný a neobsahuje zvuková data. Vyberte prosím jiný soubor.
-Chcete vybrat soubor?</translation>
+        <source>Max Level </source>
+        <translation>Max. úroveň </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> otevřít dočasnou kopii souboru </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Aktuální velikost databáze: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Chcete vybrat soubor?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono kanál: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

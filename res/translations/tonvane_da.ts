@@ -8,6 +8,10 @@
         <translation>Dette program er fri software under GNU General Public License, version 2 eller senere. Det leveres uden nogen form for garanti.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Filen kopieres</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: ikke muligt, fordi filen ikke findes.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Beklager, spidsniveautesten findes ikke for MP3-filer; brug testen af gennemsnitsniveau.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Testen blev stoppet, fordi filen ikke blev åbnet til den.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Beklager: filen </translation>
     </message>
@@ -96,6 +96,18 @@ Vil du vælge en fil?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Lydniveauet testes</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Beklager, testen blev stoppet, fordi der ikke kunne oprettes en midlertidig kopi af filen </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Testen blev stoppet, fordi filen har fejl.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Vil du vælge en fil?</translation>
         <translation>Beklager, du har ikke valgt nogen fil. Vælg en fil.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Database - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Databasens største størrelse:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Databasens aktuelle størrelse: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Ryd</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bit pr. sample</translation>
     </message>
@@ -592,6 +624,10 @@ Vil du vælge en fil?</translation>
     <message>
         <source> Size</source>
         <translation> Størrelse</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mere</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Vil du vælge en fil?</translation>
         <translation>Overstyring</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Afspil / pause (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Vil du vælge en fil?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Filen kopieres</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Alle filer (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave-filer (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3-filer (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC-filer (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg-filer (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE-filer (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC-filer (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Åbn      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Maks. niveau </translation>
+        <source>Test of the volume level</source>
+        <translation>Test af lydniveauet</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Vil du vælge en fil?</translation>
         <translation>Fejl ved start af dekoderbiblioteket faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> kan ikke oprettes.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>der findes intet gyldigt AAC-lydspor i MP4-filen.</translation>
     </message>
@@ -826,8 +826,16 @@ Vil du vælge en fil?</translation>
         <translation>Læsning fra MP4-filen mislykkedes.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanaler         </translation>
+        <source> cannot be created.</source>
+        <translation> kan ikke oprettes.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> har et lyddataformat, som programmet ikke understøtter.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Filen har mere end 2 kanaler.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Vil du vælge en fil?</translation>
         <translation>  Lydformat       APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Beklager, testen blev stoppet, fordi filen </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> er tom og indeholder ingen lyddata. Vælg en anden fil.
+Vil du vælge en fil?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>En fejl i strømmen fik dekoderen til at miste synkroniseringen.</translation>
     </message>
@@ -894,12 +912,20 @@ Vil du vælge en fil?</translation>
         <translation>  Lydformat       FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave-filer (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Batchbehandling af Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> indeholder ingen Wav-filer.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3-filer (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Vil du vælge en fil?</translation>
         <translation> indeholder ingen Mp3-filer.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC-filer (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Batchbehandling af FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> indeholder ingen FLAC-filer.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg-filer (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Vil du vælge en fil?</translation>
         <translation> indeholder ingen Ogg-filer.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE-filer (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Batchbehandling af APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Vil du vælge en fil?</translation>
         <translation> indeholder ingen APE-filer.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC-filer (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Batchbehandling af Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> indeholder ingen Mp4-filer.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Alle filer (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Vil du vælge en fil?</translation>
     <message>
         <source> kbps</source>
         <translation> kbit/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanaler         </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Vil du vælge en fil?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> har et lyddataformat, som programmet ikke understøtter.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Filen har mere end 2 kanaler.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> kunne ikke udføres.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Vil du vælge en fil?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Åbn      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Vil du vælge en fil?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Beklager, testen blev stoppet, fordi filen </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> er tom og indeholder ingen lyddata. Vælg en anden fil.
-Vil du vælge en fil?</translation>
+        <source>Max Level </source>
+        <translation>Maks. niveau </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> åbne en midlertidig kopi af filen </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Databasens aktuelle størrelse: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Vil du vælge en fil?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Monokanal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

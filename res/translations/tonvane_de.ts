@@ -8,6 +8,10 @@
         <translation>Dieses Programm ist freie Software unter der GNU General Public License, Version 2 oder neuer. Es wird ohne jede Gewährleistung geliefert.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Datei wird kopiert</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: nicht möglich, weil die Datei nicht existiert.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Leider gibt es für MP3-Dateien keinen Spitzenpegeltest; verwenden Sie den Durchschnittstest.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Der Test wurde abgebrochen, weil die Datei dafür nicht geöffnet wurde.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Leider: Datei </translation>
     </message>
@@ -96,6 +96,18 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Lautstärke wird geprüft</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Leider wurde der Test abgebrochen, weil keine temporäre Kopie angelegt werden konnte von der Datei </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Der Test wurde abgebrochen, weil die Datei fehlerhaft ist.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Leider haben Sie keine Datei ausgewählt. Bitte wählen Sie eine Datei.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Datenbank - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Maximale Größe der Datenbank:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Aktuelle Größe der Datenbank: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bits pro Sample</translation>
     </message>
@@ -592,6 +624,10 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source> Size</source>
         <translation> Größe</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Übersteuert</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Wiedergabe / Pause (Strg+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Datei wird kopiert</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Alle Dateien (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave-Dateien (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3-Dateien (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC-Dateien (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg-Dateien (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE-Dateien (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC-Dateien (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Öffnen      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Max. Pegel </translation>
+        <source>Test of the volume level</source>
+        <translation>Test des Lautstärkepegels</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Fehler beim Starten der Decoderbibliothek faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> kann nicht angelegt werden.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>in der MP4-Datei ist keine gültige AAC-Tonspur zu finden.</translation>
     </message>
@@ -826,8 +826,16 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>Das Lesen aus der MP4-Datei ist fehlgeschlagen.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanäle           </translation>
+        <source> cannot be created.</source>
+        <translation> kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> hat ein vom Programm nicht unterstütztes Audioformat.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Die Datei hat mehr als 2 Kanäle.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>  Audioformat      APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Der Test wurde abgebrochen, da die Datei </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> leer ist und keine Audiodaten enthält. Bitte wählen Sie eine andere Datei.
+Möchten Sie eine Datei auswählen?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Ein Fehler im Datenstrom hat den Decoder aus dem Takt gebracht.</translation>
     </message>
@@ -894,12 +912,20 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>  Audioformat      FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave-Dateien (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Wav-Stapelverarbeitung - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> enthält keine Wav-Dateien.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3-Dateien (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> enthält keine Mp3-Dateien.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC-Dateien (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>FLAC-Stapelverarbeitung - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> enthält keine FLAC-Dateien.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg-Dateien (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> enthält keine Ogg-Dateien.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE-Dateien (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>APE-Stapelverarbeitung - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> enthält keine APE-Dateien.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC-Dateien (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Mp4 (AAC, ALAC)-Stapelverarbeitung - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> enthält keine Mp4-Dateien.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Alle Dateien (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source> kbps</source>
         <translation> kBit/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanäle           </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> hat ein vom Programm nicht unterstütztes Audioformat.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Die Datei hat mehr als 2 Kanäle.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> konnte nicht durchgeführt werden.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Öffnen      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Möchten Sie eine Datei auswählen?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Der Test wurde abgebrochen, da die Datei </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> leer ist und keine Audiodaten enthält. Bitte wählen Sie eine andere Datei.
-Möchten Sie eine Datei auswählen?</translation>
+        <source>Max Level </source>
+        <translation>Max. Pegel </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> Öffnen einer temporären Kopie der Datei </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Aktuelle Größe der Datenbank: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Möchten Sie eine Datei auswählen?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono-Kanal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

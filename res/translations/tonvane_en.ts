@@ -68,10 +68,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation type="unfinished"></translation>
     </message>
@@ -821,10 +817,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -833,7 +825,15 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>  Channels            </source>
+        <source> cannot be created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -878,6 +878,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>  Audio Format       APE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -989,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>  Channels            </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>  Sample Rate       </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1013,11 +1026,7 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
+        <source> was not possible to fulfill.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1262,15 +1271,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Max Level </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -8,6 +8,10 @@
         <translation>Este programa es software libre bajo la Licencia Pública General de GNU, versión 2 o posterior. Se ofrece sin ninguna garantía.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Copiando el archivo</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: no es posible porque el archivo no existe.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Lo sentimos, los archivos MP3 no admiten la prueba de nivel de pico; use la prueba de nivel medio.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>La prueba se ha detenido porque el archivo no se abrió para ella.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Lo sentimos: el archivo </translation>
     </message>
@@ -96,6 +96,18 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Comprobando el nivel de volumen</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Lo sentimos, la prueba se detuvo porque no se pudo crear una copia temporal del archivo </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>La prueba se ha detenido porque el archivo tiene errores.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Lo sentimos, no ha seleccionado ningún archivo. Seleccione un archivo.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Base de datos - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Tamaño máximo de la base de datos:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Tamaño actual de la base de datos: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bits por muestra</translation>
     </message>
@@ -592,6 +624,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> Size</source>
         <translation> Tamaño</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Saturación</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Reproducir / pausa (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Copiando el archivo</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Todos los archivos (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Archivos Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Archivos MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Archivos FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Archivos Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Archivos APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Archivos AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Abrir      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Nivel máx. </translation>
+        <source>Test of the volume level</source>
+        <translation>Prueba del nivel de volumen</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Error al iniciar la biblioteca decodificadora faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> no se puede crear.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>no se encuentra una pista de audio AAC válida en el archivo MP4.</translation>
     </message>
@@ -826,8 +826,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>No se pudo leer el archivo MP4.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Canales           </translation>
+        <source> cannot be created.</source>
+        <translation> no se puede crear.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> tiene un formato de datos de sonido que el programa no admite.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> El archivo tiene más de 2 canales.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Formato           APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Lo sentimos, la prueba se detuvo porque el archivo </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> está vacío y no contiene datos de sonido. Elija otro archivo.
+¿Desea elegir un archivo?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Un error en el flujo hizo que el decodificador perdiera la sincronización.</translation>
     </message>
@@ -894,12 +912,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Formato           FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Archivos Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Procesamiento por lotes Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> no contiene archivos Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Archivos MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> no contiene archivos Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Archivos FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Procesamiento por lotes FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> no contiene archivos FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Archivos Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation> no contiene archivos Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Archivos APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Procesamiento por lotes APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> no contiene archivos APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Archivos AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Procesamiento por lotes Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> no contiene archivos Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> kbps</source>
         <translation> kbps</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Canales           </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> tiene un formato de datos de sonido que el programa no admite.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> El archivo tiene más de 2 canales.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> no se pudo realizar.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Abrir      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Lo sentimos, la prueba se detuvo porque el archivo </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> está vacío y no contiene datos de sonido. Elija otro archivo.
-¿Desea elegir un archivo?</translation>
+        <source>Max Level </source>
+        <translation>Nivel máx. </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> abrir una copia temporal del archivo </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Tamaño actual de la base de datos: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Mono Channel: </source>
         <translation>Canal mono: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Ce programme est un logiciel libre distribué sous la licence publique générale GNU, version 2 ou ultérieure. Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Copie du fichier en cours</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation> : impossible, car le fichier n&apos;existe pas.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Désolé, le test du niveau de crête n&apos;est pas proposé pour les fichiers MP3 ; utilisez le test du niveau moyen.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Le test est arrêté, car le fichier n&apos;a pas été ouvert pour lui.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Désolé : le fichier </translation>
     </message>
@@ -96,6 +96,18 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Mesure du niveau sonore en cours</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Désolé, le test est arrêté, car la copie temporaire n&apos;a pas pu être créée pour le fichier </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Le test est arrêté, car le fichier contient des erreurs.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Désolé, vous n&apos;avez sélectionné aucun fichier. Sélectionnez un fichier.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Base de données - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Taille maximale de la base de données :</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Taille actuelle de la base de données : </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bits par échantillon</translation>
     </message>
@@ -592,6 +624,10 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source> Size</source>
         <translation> Taille</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Écrêtage</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Lecture / pause (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Copie du fichier en cours</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Tous les fichiers (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Fichiers Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Fichiers MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Fichiers FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Fichiers Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Fichiers APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Fichiers AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Ouvrir      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Niveau max. </translation>
+        <source>Test of the volume level</source>
+        <translation>Test du niveau sonore</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>Erreur à l&apos;initialisation de la bibliothèque de décodage faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> ne peut pas être créé.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>aucune piste audio AAC correcte n&apos;a été trouvée dans le fichier MP4.</translation>
     </message>
@@ -826,8 +826,16 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>La lecture du fichier MP4 a échoué.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Canaux            </translation>
+        <source> cannot be created.</source>
+        <translation> ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> a un format de données sonores que le programme ne prend pas en charge.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Le fichier a plus de 2 canaux.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>  Format audio      APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Désolé, le test est arrêté, car le fichier </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> est vide et ne contient aucune donnée sonore. Veuillez choisir un autre fichier.
+Voulez-vous choisir un fichier ?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Une erreur dans le flux a fait perdre la synchronisation au décodeur.</translation>
     </message>
@@ -894,12 +912,20 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>  Format audio      FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Fichiers Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Traitement par lots Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> ne contient aucun fichier Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Fichiers MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> ne contient aucun fichier Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Fichiers FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Traitement par lots FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> ne contient aucun fichier FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Fichiers Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> ne contient aucun fichier Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Fichiers APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Traitement par lots APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> ne contient aucun fichier APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Fichiers AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Traitement par lots Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> ne contient aucun fichier Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Tous les fichiers (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source> kbps</source>
         <translation> kbit/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Canaux            </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> a un format de données sonores que le programme ne prend pas en charge.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Le fichier a plus de 2 canaux.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> n&apos;a pas pu être effectué.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Voulez-vous choisir un fichier ?</translation>
         <translation> Ko</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> Mo</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> Go</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Ouvrir      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Voulez-vous choisir un fichier ?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Désolé, le test est arrêté, car le fichier </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> est vide et ne contient aucune donnée sonore. Veuillez choisir un autre fichier.
-Voulez-vous choisir un fichier ?</translation>
+        <source>Max Level </source>
+        <translation>Niveau max. </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> ouvrir une copie temporaire du fichier </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Taille actuelle de la base de données : </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Voulez-vous choisir un fichier ?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Canal mono : </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Questo programma è software libero distribuito secondo la GNU General Public License, versione 2 o successiva. Viene fornito senza alcuna garanzia.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Copia del file in corso</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: impossibile, perché il file non esiste.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Spiacenti, per i file MP3 il test del livello di picco non è disponibile; usare il test del livello medio.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Il test è stato interrotto perché il file non è stato aperto.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Spiacenti: il file </translation>
     </message>
@@ -96,6 +96,18 @@ Scegliere un file?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Test del livello del volume in corso</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Spiacenti, il test è stato interrotto perché non è stato possibile creare una copia temporanea del file </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Il test è stato interrotto perché il file contiene errori.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Scegliere un file?</translation>
         <translation>Spiacenti, non è stato selezionato alcun file. Selezionare un file.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Database - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Dimensione massima del database:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Dimensione attuale del database: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bit per campione</translation>
     </message>
@@ -592,6 +624,10 @@ Scegliere un file?</translation>
     <message>
         <source> Size</source>
         <translation> Dimensione</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Scegliere un file?</translation>
         <translation>Saturazione</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Riproduci / pausa (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Scegliere un file?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Copia del file in corso</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Tutti i file (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>File Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>File MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>File FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>File Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>File APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>File AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Apri      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Livello max. </translation>
+        <source>Test of the volume level</source>
+        <translation>Test del livello del volume</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Scegliere un file?</translation>
         <translation>Errore nell&apos;inizializzazione della libreria di decodifica faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> non può essere creato.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>nel file MP4 non si trova una traccia audio AAC valida.</translation>
     </message>
@@ -826,8 +826,16 @@ Scegliere un file?</translation>
         <translation>Lettura dal file MP4 non riuscita.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Canali            </translation>
+        <source> cannot be created.</source>
+        <translation> non può essere creato.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> ha un formato di dati audio non supportato dal programma.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Il file ha più di 2 canali.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Scegliere un file?</translation>
         <translation>  Formato audio     APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Spiacenti, il test è stato interrotto perché il file </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> è vuoto e non contiene dati audio. Scegliere un altro file.
+Scegliere un file?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Un errore nel flusso ha fatto perdere la sincronizzazione al decodificatore.</translation>
     </message>
@@ -894,12 +912,20 @@ Scegliere un file?</translation>
         <translation>  Formato audio     FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>File Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Elaborazione in serie Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> non contiene file Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>File MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Scegliere un file?</translation>
         <translation> non contiene file Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>File FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Elaborazione in serie FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> non contiene file FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>File Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Scegliere un file?</translation>
         <translation> non contiene file Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>File APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Elaborazione in serie APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Scegliere un file?</translation>
         <translation> non contiene file APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>File AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Elaborazione in serie Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> non contiene file Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Tutti i file (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Scegliere un file?</translation>
     <message>
         <source> kbps</source>
         <translation> kbps</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Canali            </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Scegliere un file?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> ha un formato di dati audio non supportato dal programma.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Il file ha più di 2 canali.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> non è stato possibile.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Scegliere un file?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Apri      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Scegliere un file?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Spiacenti, il test è stato interrotto perché il file </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> è vuoto e non contiene dati audio. Scegliere un altro file.
-Scegliere un file?</translation>
+        <source>Max Level </source>
+        <translation>Livello max. </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> aprire una copia temporanea del file </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Dimensione attuale del database: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Scegliere un file?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Canale mono: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>이 프로그램은 GNU 일반 공중 사용 허가서 버전 2 이상에 따라 배포되는 자유 소프트웨어입니다. 어떠한 보증도 제공하지 않습니다.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  파일 복사 중</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: 파일이 없으므로 할 수 없습니다.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>죄송합니다. MP3 파일에는 피크 레벨 테스트가 없습니다. 평균 레벨 테스트를 사용하십시오.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>파일이 테스트용으로 열리지 않아 테스트를 중지했습니다.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>죄송합니다. 파일 </translation>
     </message>
@@ -96,6 +96,18 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  음량 레벨 테스트 중</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>죄송합니다. 다음 파일의 임시 사본을 만들지 못해 테스트를 중지했습니다: </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>파일에 오류가 있어 테스트를 중지했습니다.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation>죄송합니다. 파일을 선택하지 않았습니다. 파일을 선택하십시오.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>데이터베이스 - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>데이터베이스 최대 크기:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>현재 데이터베이스 크기: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>비우기</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> 샘플당 비트</translation>
     </message>
@@ -592,6 +624,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> Size</source>
         <translation> 크기</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>클리핑</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>위치</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>재생/일시 정지 (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  파일 복사 중</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>모든 파일 (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave 파일 (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3 파일 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC 파일 (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg 파일 (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE 파일 (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC 파일 (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>열기      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>최대 레벨 </translation>
+        <source>Test of the volume level</source>
+        <translation>음량 레벨 테스트</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>faad 디코더 라이브러리를 초기화하는 중 오류가 발생했습니다. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation>을(를) 만들 수 없습니다.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>MP4 파일에서 올바른 AAC 오디오 트랙을 찾을 수 없습니다.</translation>
     </message>
@@ -826,8 +826,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>MP4 파일을 읽지 못했습니다.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  채널         </translation>
+        <source> cannot be created.</source>
+        <translation>을(를) 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation>의 소리 데이터 형식은 프로그램에서 지원하지 않습니다.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> 파일의 채널이 2개보다 많습니다.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  오디오 형식  APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>죄송합니다. 다음 파일 때문에 테스트를 중지했습니다: </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> 파일이 비어 있고 소리 데이터가 없습니다. 다른 파일을 선택하십시오.
+파일 선택 대화 상자를 여시겠습니까?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>스트림 오류로 인해 디코더가 동기를 잃었습니다.</translation>
     </message>
@@ -894,12 +912,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  오디오 형식  FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave 파일 (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Wav 일괄 처리 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation>에 Wav 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3 파일 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>에 Mp3 파일이 없습니다.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC 파일 (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>FLAC 일괄 처리 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation>에 FLAC 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg 파일 (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>에 Ogg 파일이 없습니다.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE 파일 (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>APE 일괄 처리 - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>에 APE 파일이 없습니다.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC 파일 (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Mp4 (AAC, ALAC) 일괄 처리 - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation>에 Mp4 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>모든 파일 (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> kbps</source>
         <translation> kbps</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  채널         </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation>의 소리 데이터 형식은 프로그램에서 지원하지 않습니다.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> 파일의 채널이 2개보다 많습니다.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation>의 테스트를 수행할 수 없습니다.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>열기      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>죄송합니다. 다음 파일 때문에 테스트를 중지했습니다: </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> 파일이 비어 있고 소리 데이터가 없습니다. 다른 파일을 선택하십시오.
-파일 선택 대화 상자를 여시겠습니까?</translation>
+        <source>Max Level </source>
+        <translation>최대 레벨 </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> 다음 파일의 임시 사본 열기 </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>현재 데이터베이스 크기: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Mono Channel: </source>
         <translation>모노 채널: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Dit programma is vrije software onder de GNU General Public License, versie 2 of later. Het wordt geleverd zonder enige garantie.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Bestand wordt gekopieerd</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: niet mogelijk, omdat het bestand niet bestaat.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Helaas is de piekniveautest niet beschikbaar voor MP3-bestanden; gebruik de gemiddeld-niveautest.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>De test is gestopt omdat het bestand er niet voor geopend is.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Helaas: bestand </translation>
     </message>
@@ -96,6 +96,18 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Volumeniveau wordt getest</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Helaas is de test gestopt omdat er geen tijdelijke kopie gemaakt kon worden van het bestand </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>De test is gestopt omdat het bestand fouten bevat.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Wilt u een bestand kiezen?</translation>
         <translation>Helaas hebt u geen bestand gekozen. Kies een bestand.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Database - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Maximale grootte van de database:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Huidige grootte van de database: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Legen</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bits per sample</translation>
     </message>
@@ -592,6 +624,10 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source> Size</source>
         <translation> Grootte</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Meer</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Wilt u een bestand kiezen?</translation>
         <translation>Oversturing</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Afspelen / pauze (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Wilt u een bestand kiezen?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Bestand wordt gekopieerd</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Alle bestanden (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave-bestanden (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3-bestanden (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC-bestanden (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg-bestanden (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE-bestanden (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC-bestanden (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Openen      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Max. niveau </translation>
+        <source>Test of the volume level</source>
+        <translation>Test van het volumeniveau</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Wilt u een bestand kiezen?</translation>
         <translation>Fout bij het starten van de decoderbibliotheek faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> kan niet worden aangemaakt.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>in het MP4-bestand is geen geldig AAC-geluidsspoor te vinden.</translation>
     </message>
@@ -826,8 +826,16 @@ Wilt u een bestand kiezen?</translation>
         <translation>Lezen uit het MP4-bestand is mislukt.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanalen          </translation>
+        <source> cannot be created.</source>
+        <translation> kan niet worden aangemaakt.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> heeft een geluidsformaat dat het programma niet ondersteunt.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Het bestand heeft meer dan 2 kanalen.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Wilt u een bestand kiezen?</translation>
         <translation>  Audioformaat     APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Helaas is de test gestopt omdat het bestand </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> leeg is en geen geluidsgegevens bevat. Kies een ander bestand.
+Wilt u een bestand kiezen?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Door een fout in de stroom is de decoder de synchronisatie kwijtgeraakt.</translation>
     </message>
@@ -894,12 +912,20 @@ Wilt u een bestand kiezen?</translation>
         <translation>  Audioformaat     FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave-bestanden (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Wav-batchverwerking - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> bevat geen Wav-bestanden.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3-bestanden (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Wilt u een bestand kiezen?</translation>
         <translation> bevat geen Mp3-bestanden.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC-bestanden (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>FLAC-batchverwerking - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> bevat geen FLAC-bestanden.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg-bestanden (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Wilt u een bestand kiezen?</translation>
         <translation> bevat geen Ogg-bestanden.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE-bestanden (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>APE-batchverwerking - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Wilt u een bestand kiezen?</translation>
         <translation> bevat geen APE-bestanden.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC-bestanden (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Mp4 (AAC, ALAC)-batchverwerking - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> bevat geen Mp4-bestanden.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Alle bestanden (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source> kbps</source>
         <translation> kbit/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanalen          </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Wilt u een bestand kiezen?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> heeft een geluidsformaat dat het programma niet ondersteunt.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Het bestand heeft meer dan 2 kanalen.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> kon niet worden uitgevoerd.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Wilt u een bestand kiezen?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Openen      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Wilt u een bestand kiezen?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Helaas is de test gestopt omdat het bestand </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> leeg is en geen geluidsgegevens bevat. Kies een ander bestand.
-Wilt u een bestand kiezen?</translation>
+        <source>Max Level </source>
+        <translation>Max. niveau </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> een tijdelijke kopie openen van het bestand </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Huidige grootte van de database: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Wilt u een bestand kiezen?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Monokanaal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Ten program jest wolnym oprogramowaniem na licencji GNU General Public License w wersji 2 lub nowszej. Jest dostarczany bez żadnej gwarancji.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Trwa kopiowanie pliku</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: niemożliwe, ponieważ plik nie istnieje.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Niestety, dla plików MP3 test poziomu szczytowego jest niedostępny; użyj testu poziomu średniego.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Test został zatrzymany, ponieważ plik nie został do niego otwarty.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Niestety: plik </translation>
     </message>
@@ -96,6 +96,18 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Trwa test poziomu głośności</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Niestety, test został zatrzymany, ponieważ nie udało się utworzyć tymczasowej kopii pliku </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Test został zatrzymany, ponieważ plik zawiera błędy.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Czy chcesz wybrać plik?</translation>
         <translation>Niestety, nie wybrano żadnego pliku. Wybierz plik.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Baza danych - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Maksymalny rozmiar bazy danych:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Bieżący rozmiar bazy danych: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bity na próbkę</translation>
     </message>
@@ -592,6 +624,10 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source> Size</source>
         <translation> Rozmiar</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Więcej</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Czy chcesz wybrać plik?</translation>
         <translation>Przesterowanie</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Odtwórz / pauza (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Czy chcesz wybrać plik?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Trwa kopiowanie pliku</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Wszystkie pliki (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Pliki Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Pliki MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Pliki FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Pliki Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Pliki APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Pliki AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Otwórz      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Maks. poziom </translation>
+        <source>Test of the volume level</source>
+        <translation>Test poziomu głośności</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Czy chcesz wybrać plik?</translation>
         <translation>Błąd inicjalizacji biblioteki dekodera faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> nie może zostać utworzony.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>w pliku MP4 nie znaleziono prawidłowej ścieżki dźwiękowej AAC.</translation>
     </message>
@@ -826,8 +826,16 @@ Czy chcesz wybrać plik?</translation>
         <translation>Odczyt z pliku MP4 nie powiódł się.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanały          </translation>
+        <source> cannot be created.</source>
+        <translation> nie może zostać utworzony.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> ma format danych dźwiękowych nieobsługiwany przez program.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Plik ma więcej niż 2 kanały.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Czy chcesz wybrać plik?</translation>
         <translation>  Format          APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Niestety, test został zatrzymany, ponieważ plik </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> jest pusty i nie zawiera danych dźwiękowych. Wybierz inny plik.
+Czy chcesz wybrać plik?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Błąd w strumieniu spowodował utratę synchronizacji dekodera.</translation>
     </message>
@@ -894,12 +912,20 @@ Czy chcesz wybrać plik?</translation>
         <translation>  Format          FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Pliki Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Przetwarzanie wsadowe Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> nie zawiera plików Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Pliki MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Czy chcesz wybrać plik?</translation>
         <translation> nie zawiera plików Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Pliki FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Przetwarzanie wsadowe FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> nie zawiera plików FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Pliki Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Czy chcesz wybrać plik?</translation>
         <translation> nie zawiera plików Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Pliki APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Przetwarzanie wsadowe APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Czy chcesz wybrać plik?</translation>
         <translation> nie zawiera plików APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Pliki AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Przetwarzanie wsadowe Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> nie zawiera plików Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Wszystkie pliki (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source> kbps</source>
         <translation> kb/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanały          </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Czy chcesz wybrać plik?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> ma format danych dźwiękowych nieobsługiwany przez program.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Plik ma więcej niż 2 kanały.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> nie mógł zostać wykonany.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Czy chcesz wybrać plik?</translation>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Otwórz      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Czy chcesz wybrać plik?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Niestety, test został zatrzymany, ponieważ plik </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> jest pusty i nie zawiera danych dźwiękowych. Wybierz inny plik.
-Czy chcesz wybrać plik?</translation>
+        <source>Max Level </source>
+        <translation>Maks. poziom </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> otwarcie tymczasowej kopii pliku </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Bieżący rozmiar bazy danych: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Czy chcesz wybrać plik?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Kanał mono: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Este programa é software livre sob a Licença Pública Geral GNU, versão 2 ou posterior. Ele é fornecido sem nenhuma garantia.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Copiando o arquivo</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: impossível, porque o arquivo não existe.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Desculpe, o teste de nível de pico não está disponível para arquivos MP3; use o teste de nível médio.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>O teste foi interrompido porque o arquivo não foi aberto para ele.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Desculpe: o arquivo </translation>
     </message>
@@ -96,6 +96,18 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Testando o nível de volume</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Desculpe, o teste foi interrompido porque não foi possível criar uma cópia temporária do arquivo </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>O teste foi interrompido porque o arquivo contém erros.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Deseja escolher um arquivo?</translation>
         <translation>Desculpe, você não selecionou nenhum arquivo. Selecione um arquivo.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Banco de dados - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Tamanho máximo do banco de dados:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Tamanho atual do banco de dados: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bits por amostra</translation>
     </message>
@@ -592,6 +624,10 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source> Size</source>
         <translation> Tamanho</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Deseja escolher um arquivo?</translation>
         <translation>Saturação</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Reproduzir / pausar (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Deseja escolher um arquivo?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Copiando o arquivo</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Todos os arquivos (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Arquivos Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Arquivos MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Arquivos FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Arquivos Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Arquivos APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Arquivos AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Abrir      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Nível máx. </translation>
+        <source>Test of the volume level</source>
+        <translation>Teste do nível de volume</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Deseja escolher um arquivo?</translation>
         <translation>Erro ao iniciar a biblioteca decodificadora faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> não pode ser criado.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>não há uma faixa de áudio AAC válida no arquivo MP4.</translation>
     </message>
@@ -826,8 +826,16 @@ Deseja escolher um arquivo?</translation>
         <translation>A leitura do arquivo MP4 falhou.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Canais            </translation>
+        <source> cannot be created.</source>
+        <translation> não pode ser criado.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> tem um formato de dados de som que o programa não suporta.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> O arquivo tem mais de 2 canais.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Deseja escolher um arquivo?</translation>
         <translation>  Formato           APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Desculpe, o teste foi interrompido porque o arquivo </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> está vazio e não contém dados de som. Escolha outro arquivo.
+Deseja escolher um arquivo?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Um erro no fluxo fez o decodificador perder a sincronização.</translation>
     </message>
@@ -894,12 +912,20 @@ Deseja escolher um arquivo?</translation>
         <translation>  Formato           FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Arquivos Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Processamento em lote Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> não contém arquivos Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Arquivos MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Deseja escolher um arquivo?</translation>
         <translation> não contém arquivos Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Arquivos FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Processamento em lote FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> não contém arquivos FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Arquivos Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Deseja escolher um arquivo?</translation>
         <translation> não contém arquivos Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Arquivos APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Processamento em lote APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Deseja escolher um arquivo?</translation>
         <translation> não contém arquivos APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Arquivos AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Processamento em lote Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> não contém arquivos Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Todos os arquivos (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source> kbps</source>
         <translation> kbps</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Canais            </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Deseja escolher um arquivo?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> tem um formato de dados de som que o programa não suporta.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> O arquivo tem mais de 2 canais.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> não pôde ser realizado.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Deseja escolher um arquivo?</translation>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Abrir      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Deseja escolher um arquivo?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Desculpe, o teste foi interrompido porque o arquivo </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> está vazio e não contém dados de som. Escolha outro arquivo.
-Deseja escolher um arquivo?</translation>
+        <source>Max Level </source>
+        <translation>Nível máx. </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> abrir uma cópia temporária do arquivo </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Tamanho atual do banco de dados: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Deseja escolher um arquivo?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Canal mono: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Эта программа — свободное программное обеспечение на условиях GNU General Public License версии 2 или более поздней. Она поставляется без каких-либо гарантий.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Идёт копирование файла</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: невозможно, так как файл не существует.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>К сожалению, для файлов MP3 проверка пикового уровня недоступна; используйте проверку среднего уровня.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Проверка остановлена, так как файл не был для неё открыт.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>К сожалению, файл </translation>
     </message>
@@ -96,6 +96,18 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Идёт проверка уровня громкости</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>К сожалению, проверка остановлена: не удалось создать временную копию файла </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Проверка остановлена, так как файл содержит ошибки.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Do You want to open a dialog of selection a file?</source>
         <translation>К сожалению, вы не выбрали ни одного файла. Выберите файл.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>База данных - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Максимальный размер базы данных:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> МБ</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Текущий размер базы данных: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Бит на отсчёт</translation>
     </message>
@@ -592,6 +624,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> Size</source>
         <translation> Размер</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Перегрузка</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Позиция</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Воспроизведение / пауза (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>(мс)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Идёт копирование файла</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Все файлы (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Файлы Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Файлы MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Файлы FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Файлы Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Файлы APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Файлы AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Открыть      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Макс. уровень </translation>
+        <source>Test of the volume level</source>
+        <translation>Проверка уровня громкости</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Ошибка инициализации библиотеки декодера faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> не удаётся создать.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>в файле MP4 не найдена корректная звуковая дорожка AAC.</translation>
     </message>
@@ -826,8 +826,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>Не удалось прочитать файл MP4.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Каналы         </translation>
+        <source> cannot be created.</source>
+        <translation> не удаётся создать.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> имеет формат звуковых данных, не поддерживаемый программой.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> В файле больше 2 каналов.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Аудиоформат    APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>К сожалению, проверка остановлена, так как файл </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> пуст и не содержит звуковых данных. Пожалуйста, выберите другой файл.
+Открыть диалог выбора файла?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Ошибка в потоке привела к потере синхронизации декодера.</translation>
     </message>
@@ -894,12 +912,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation>  Аудиоформат    FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Файлы Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Пакетная обработка Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> не содержит файлов Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Файлы MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> не содержит файлов Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Файлы FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Пакетная обработка FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> не содержит файлов FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Файлы Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation> не содержит файлов Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Файлы APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Пакетная обработка APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Do You want to open a dialog of selection a file?</source>
         <translation> не содержит файлов APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Файлы AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Пакетная обработка Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> не содержит файлов Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Все файлы (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source> kbps</source>
         <translation> кбит/с</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Каналы         </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = 89 дБ</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> имеет формат звуковых данных, не поддерживаемый программой.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> В файле больше 2 каналов.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> выполнить не удалось.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation> КБ</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> МБ</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> ГБ</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Открыть      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Do You want to open a dialog of selection a file?</source>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>К сожалению, проверка остановлена, так как файл </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> пуст и не содержит звуковых данных. Пожалуйста, выберите другой файл.
-Открыть диалог выбора файла?</translation>
+        <source>Max Level </source>
+        <translation>Макс. уровень </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> открыть временную копию файла </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Текущий размер базы данных: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Do You want to open a dialog of selection a file?</source>
     <message>
         <source>Mono Channel: </source>
         <translation>Моно: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

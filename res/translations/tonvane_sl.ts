@@ -8,6 +8,10 @@
         <translation>Ta program je prosto programje pod licenco GNU General Public License, različica 2 ali novejša. Na voljo je brez kakršnega koli jamstva.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Poteka kopiranje datoteke</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: ni mogoče, ker datoteka ne obstaja.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Žal za datoteke MP3 preizkus vršne ravni ni na voljo; uporabite preizkus povprečne ravni.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Preizkus je bil ustavljen, ker datoteka zanj ni bila odprta.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Žal: datoteka </translation>
     </message>
@@ -96,6 +96,18 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Poteka preizkus ravni glasnosti</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Žal je bil preizkus ustavljen, ker ni bilo mogoče ustvariti začasne kopije datoteke </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Preizkus je bil ustavljen, ker datoteka vsebuje napake.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Ali želite izbrati datoteko?</translation>
         <translation>Žal niste izbrali nobene datoteke. Izberite datoteko.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Zbirka podatkov - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Največja velikost zbirke podatkov:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Trenutna velikost zbirke podatkov: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Počisti</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bitov na vzorec</translation>
     </message>
@@ -592,6 +624,10 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source> Size</source>
         <translation> Velikost</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Več</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Ali želite izbrati datoteko?</translation>
         <translation>Prekrmiljenje</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Položaj</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Predvajaj / premor (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Ali želite izbrati datoteko?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Poteka kopiranje datoteke</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Vse datoteke (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Datoteke Wave (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>Datoteke MP3 (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>Datoteke FLAC (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Datoteke Ogg (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>Datoteke APE (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>Datoteke AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Odpri      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Najv. raven </translation>
+        <source>Test of the volume level</source>
+        <translation>Preizkus ravni glasnosti</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Ali želite izbrati datoteko?</translation>
         <translation>Napaka pri zagonu knjižnice dekodirnika faad. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> ni mogoče ustvariti.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>v datoteki MP4 ni mogoče najti veljavne zvočne sledi AAC.</translation>
     </message>
@@ -826,8 +826,16 @@ Ali želite izbrati datoteko?</translation>
         <translation>Branje iz datoteke MP4 ni uspelo.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanali           </translation>
+        <source> cannot be created.</source>
+        <translation> ni mogoče ustvariti.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> ima zapis zvočnih podatkov, ki ga program ne podpira.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Datoteka ima več kot 2 kanala.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Ali želite izbrati datoteko?</translation>
         <translation>  Zvočni zapis     APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Žal je bil preizkus ustavljen, ker je datoteka </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> prazna in ne vsebuje zvočnih podatkov. Izberite drugo datoteko.
+Ali želite izbrati datoteko?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Napaka v toku je povzročila, da je dekodirnik izgubil sinhronizacijo.</translation>
     </message>
@@ -894,12 +912,20 @@ Ali želite izbrati datoteko?</translation>
         <translation>  Zvočni zapis     FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Datoteke Wave (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Paketna obdelava Wav - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> ne vsebuje datotek Wav.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>Datoteke MP3 (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Ali želite izbrati datoteko?</translation>
         <translation> ne vsebuje datotek Mp3.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>Datoteke FLAC (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>Paketna obdelava FLAC - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> ne vsebuje datotek FLAC.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Datoteke Ogg (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Ali želite izbrati datoteko?</translation>
         <translation> ne vsebuje datotek Ogg.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>Datoteke APE (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>Paketna obdelava APE - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Ali želite izbrati datoteko?</translation>
         <translation> ne vsebuje datotek APE.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>Datoteke AAC/ALAC (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Paketna obdelava Mp4 (AAC, ALAC) - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> ne vsebuje datotek Mp4.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Vse datoteke (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source> kbps</source>
         <translation> kb/s</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanali           </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Ali želite izbrati datoteko?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> ima zapis zvočnih podatkov, ki ga program ne podpira.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Datoteka ima več kot 2 kanala.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> ni bilo mogoče izvesti.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Ali želite izbrati datoteko?</translation>
         <translation> kB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Odpri      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Ali želite izbrati datoteko?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Žal je bil preizkus ustavljen, ker je datoteka </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> prazna in ne vsebuje zvočnih podatkov. Izberite drugo datoteko.
-Ali želite izbrati datoteko?</translation>
+        <source>Max Level </source>
+        <translation>Najv. raven </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> odpreti začasne kopije datoteke </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Trenutna velikost zbirke podatkov: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Ali želite izbrati datoteko?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,10 @@
         <translation>Bu program, GNU Genel Kamu Lisansı sürüm 2 veya sonrası altında özgür bir yazılımdır. Hiçbir garanti verilmeden sunulur.</translation>
     </message>
     <message>
+        <source>  Copying of the file is fulfilling</source>
+        <translation>  Dosya kopyalanıyor</translation>
+    </message>
+    <message>
         <source> impossible. Because the file does not exist.</source>
         <translation>: mümkün değil, çünkü dosya yok.</translation>
     </message>
@@ -64,10 +68,6 @@
         <translation>Üzgünüz, MP3 dosyaları için tepe seviyesi testi yok; ortalama seviye testini kullanın.</translation>
     </message>
     <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.</source>
-        <translation>Dosya bu test için açılmadığından test durduruldu.</translation>
-    </message>
-    <message>
         <source>Sorry but the file </source>
         <translation>Üzgünüz: dosya </translation>
     </message>
@@ -96,6 +96,18 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation>  Ses seviyesi test ediliyor</translation>
+    </message>
+    <message>
+        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
+        <translation>Üzgünüz, şu dosyanın geçici kopyası oluşturulamadığı için test durduruldu: </translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>.</translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file has errors.</source>
+        <translation>Dosyada hatalar olduğu için test durduruldu.</translation>
     </message>
     <message>
         <source>Russian</source>
@@ -574,6 +586,26 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Üzgünüz, hiç dosya seçmediniz. Bir dosya seçin.</translation>
     </message>
     <message>
+        <source>Database - Tonvane 1.0</source>
+        <translation>Veritabanı - Tonvane 1.0</translation>
+    </message>
+    <message>
+        <source>Maximum size the Database:</source>
+        <translation>Veritabanının azami boyutu:</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Current size the Database: </source>
+        <translation>Veritabanının şu anki boyutu: </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
         <source> Bits on Readout</source>
         <translation> Bit derinliği</translation>
     </message>
@@ -592,6 +624,10 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source> Size</source>
         <translation> Boyut</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Daha fazla</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
@@ -694,6 +730,10 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>Kırpılma</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation>Konum</translation>
+    </message>
+    <message>
         <source>Play / Pause (Ctrl+U)</source>
         <translation>Oynat / duraklat (Ctrl+U)</translation>
     </message>
@@ -750,44 +790,8 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>(ms)</translation>
     </message>
     <message>
-        <source>  Copying of the file is fulfilling</source>
-        <translation>  Dosya kopyalanıyor</translation>
-    </message>
-    <message>
-        <source>All Files (*.*)</source>
-        <translation>Tüm dosyalar (*.*)</translation>
-    </message>
-    <message>
-        <source>Wave Files (*.wav; *.wave)</source>
-        <translation>Wave dosyaları (*.wav; *.wave)</translation>
-    </message>
-    <message>
-        <source>Mp3 Files (*.mp3; *.mpga)</source>
-        <translation>MP3 dosyaları (*.mp3; *.mpga)</translation>
-    </message>
-    <message>
-        <source>FLAC Files (*.flac; *.fla)</source>
-        <translation>FLAC dosyaları (*.flac; *.fla)</translation>
-    </message>
-    <message>
-        <source>Ogg Files (*.ogg)</source>
-        <translation>Ogg dosyaları (*.ogg)</translation>
-    </message>
-    <message>
-        <source>APE Files (*.ape)</source>
-        <translation>APE dosyaları (*.ape)</translation>
-    </message>
-    <message>
-        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
-        <translation>AAC/ALAC dosyaları (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
-    </message>
-    <message>
-        <source>Open      </source>
-        <translation>Aç      </translation>
-    </message>
-    <message>
-        <source>Max Level </source>
-        <translation>Azami seviye </translation>
+        <source>Test of the volume level</source>
+        <translation>Ses seviyesi testi</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
@@ -814,10 +818,6 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>faad kod çözücü kütüphanesi başlatılırken hata oluştu. </translation>
     </message>
     <message>
-        <source> cannot be created.</source>
-        <translation> oluşturulamıyor.</translation>
-    </message>
-    <message>
         <source>correct AAC sound track is impossible to find in the Mp4 file.</source>
         <translation>MP4 dosyasında geçerli bir AAC ses izi bulunamadı.</translation>
     </message>
@@ -826,8 +826,16 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>MP4 dosyasından okuma başarısız oldu.</translation>
     </message>
     <message>
-        <source>  Channels            </source>
-        <translation>  Kanallar       </translation>
+        <source> cannot be created.</source>
+        <translation> oluşturulamıyor.</translation>
+    </message>
+    <message>
+        <source> has unsupported by the program a format of sound data.</source>
+        <translation> programın desteklemediği bir ses verisi biçimine sahip.</translation>
+    </message>
+    <message>
+        <source> The file has an amount of channels more than 2.</source>
+        <translation> Dosyada 2&apos;den fazla kanal var.</translation>
     </message>
     <message>
         <source> is empty and does not contain any sound data.</source>
@@ -874,6 +882,16 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>  Ses biçimi     APE</translation>
     </message>
     <message>
+        <source>Sorry, but the test is stopped as the file </source>
+        <translation>Üzgünüz, test durduruldu, çünkü dosya </translation>
+    </message>
+    <message>
+        <source> is empty and does not contain a sound data. Please, select another file.
+Do You want to open a dialog of selection a file?</source>
+        <translation> boş ve hiç ses verisi içermiyor. Lütfen başka bir dosya seçin.
+Bir dosya seçmek ister misiniz?</translation>
+    </message>
+    <message>
         <source>An error in the stream caused the decoder to lose synchronization.</source>
         <translation>Akıştaki bir hata kod çözücünün eşzamanlamayı kaybetmesine yol açtı.</translation>
     </message>
@@ -894,12 +912,20 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>  Ses biçimi     FLAC</translation>
     </message>
     <message>
+        <source>Wave Files (*.wav; *.wave)</source>
+        <translation>Wave dosyaları (*.wav; *.wave)</translation>
+    </message>
+    <message>
         <source>Wav Batch Processor - Tonvane 1.0</source>
         <translation>Wav Toplu İşlem - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Wav files.</source>
         <translation> hiç Wav dosyası içermiyor.</translation>
+    </message>
+    <message>
+        <source>Mp3 Files (*.mp3; *.mpga)</source>
+        <translation>MP3 dosyaları (*.mp3; *.mpga)</translation>
     </message>
     <message>
         <source>Mp3 Batch Processor - Tonvane 1.0</source>
@@ -910,12 +936,20 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> hiç Mp3 dosyası içermiyor.</translation>
     </message>
     <message>
+        <source>FLAC Files (*.flac; *.fla)</source>
+        <translation>FLAC dosyaları (*.flac; *.fla)</translation>
+    </message>
+    <message>
         <source>FLAC Batch Processor - Tonvane 1.0</source>
         <translation>FLAC Toplu İşlem - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any FLAC files.</source>
         <translation> hiç FLAC dosyası içermiyor.</translation>
+    </message>
+    <message>
+        <source>Ogg Files (*.ogg)</source>
+        <translation>Ogg dosyaları (*.ogg)</translation>
     </message>
     <message>
         <source>Ogg Batch Processor - Tonvane 1.0</source>
@@ -926,6 +960,10 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> hiç Ogg dosyası içermiyor.</translation>
     </message>
     <message>
+        <source>APE Files (*.ape)</source>
+        <translation>APE dosyaları (*.ape)</translation>
+    </message>
+    <message>
         <source>APE Batch Processor - Tonvane 1.0</source>
         <translation>APE Toplu İşlem - Tonvane 1.0</translation>
     </message>
@@ -934,12 +972,20 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> hiç APE dosyası içermiyor.</translation>
     </message>
     <message>
+        <source>AAC/ALAC Files (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</source>
+        <translation>AAC/ALAC dosyaları (*.aac,*.mp4,*.m4a,*.m4b,*.m4p,*.m4r)</translation>
+    </message>
+    <message>
         <source>Mp4 (AAC, ALAC) Batch Processor - Tonvane 1.0</source>
         <translation>Mp4 (AAC, ALAC) Toplu İşlem - Tonvane 1.0</translation>
     </message>
     <message>
         <source> does not contain any Mp4 files.</source>
         <translation> hiç Mp4 dosyası içermiyor.</translation>
+    </message>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Tüm dosyalar (*.*)</translation>
     </message>
     <message>
         <source>M3U Playlist (*.m3u;*.m3u8)</source>
@@ -952,6 +998,10 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source> kbps</source>
         <translation> kbit/sn</translation>
+    </message>
+    <message>
+        <source>  Channels            </source>
+        <translation>  Kanallar       </translation>
     </message>
     <message>
         <source>  Sample Rate       </source>
@@ -978,12 +1028,8 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>100% = 89 dB</translation>
     </message>
     <message>
-        <source> has unsupported by the program a format of sound data.</source>
-        <translation> programın desteklemediği bir ses verisi biçimine sahip.</translation>
-    </message>
-    <message>
-        <source> The file has an amount of channels more than 2.</source>
-        <translation> Dosyada 2&apos;den fazla kanal var.</translation>
+        <source> was not possible to fulfill.</source>
+        <translation> gerçekleştirilemedi.</translation>
     </message>
     <message>
         <source>  Bit Rate              </source>
@@ -1078,12 +1124,12 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation> KB</translation>
     </message>
     <message>
-        <source> MB</source>
-        <translation> MB</translation>
-    </message>
-    <message>
         <source> GB</source>
         <translation> GB</translation>
+    </message>
+    <message>
+        <source>Open      </source>
+        <translation>Aç      </translation>
     </message>
     <message>
         <source> has unsupported by the program a format of sound data. Therefore the test is impossible. Please, select other file.
@@ -1230,22 +1276,12 @@ Bir dosya seçmek ister misiniz?</translation>
         <translation>100% = </translation>
     </message>
     <message>
-        <source>Sorry, but the test is stopped as the file </source>
-        <translation>Üzgünüz, test durduruldu, çünkü dosya </translation>
-    </message>
-    <message>
-        <source> is empty and does not contain a sound data. Please, select another file.
-Do You want to open a dialog of selection a file?</source>
-        <translation> boş ve hiç ses verisi içermiyor. Lütfen başka bir dosya seçin.
-Bir dosya seçmek ister misiniz?</translation>
+        <source>Max Level </source>
+        <translation>Azami seviye </translation>
     </message>
     <message>
         <source> open a temporary copy of the file </source>
         <translation> dosyanın geçici bir kopyasını açmak </translation>
-    </message>
-    <message>
-        <source>Current size the Database: </source>
-        <translation>Veritabanının şu anki boyutu: </translation>
     </message>
     <message>
         <source>Sorry, but an error of opening has occurred the file &quot;TestLog.csv&quot;.</source>
@@ -1590,42 +1626,6 @@ Bir dosya seçmek ister misiniz?</translation>
     <message>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
-    </message>
-    <message>
-        <source>Sorry, but the test is stopped, because of failure to create a temporal copy of the file </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file has errors.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Database - Tonvane 1.0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Maximum size the Database:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test of the volume level</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
