@@ -210,16 +210,16 @@ Result System::init(int maxChannels, unsigned, void*) {
   if (m_initialized) return OK;
   if (!m_output) m_output = MakeSdlOutput();
   AudioFormat want;
-  AudioFormat got;
-  if (!m_output->Open(want, got, [this](float* out, int frames) { Render(out, frames); })) {
+  // The output fills m_format before it starts calling Render, which reads it from the
+  // audio thread.
+  if (!m_output->Open(want, m_format, [this](float* out, int frames) { Render(out, frames); })) {
     m_outputError = m_output->Error();
     return ERR_OUTPUT_INIT;
   }
-  if (got.channels < 1 || got.rate < 1000) {
+  if (m_format.channels < 1 || m_format.rate < 1000) {
     m_output->Close();
     return ERR_OUTPUT_INIT;
   }
-  m_format = got;
   m_outputError.clear();
   m_initialized = true;
   return OK;
