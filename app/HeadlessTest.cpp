@@ -70,24 +70,6 @@ void ResultToPeak(Session& s) {
   }
 }
 
-// Takes the group of the test from a measurement; the other groups stay as the log's row
-// had them.
-void TakeGroup(LevelResult& to, const LevelResult& from, int mode, int showDb) {
-  if (mode == 1) {
-    to.GainLeft = from.GainLeft;
-    to.GainRight = from.GainRight;
-    to.NoClippingLeft = from.NoClippingLeft;
-    to.NoClippingRight = from.NoClippingRight;
-  } else if (showDb) {
-    to.WavPikLeft = from.WavPikLeft;
-    to.WavPikRight = from.WavPikRight;
-    to.WavPikNoClippingLeft = from.WavPikNoClippingLeft;
-    to.WavPikNoClippingRight = from.WavPikNoClippingRight;
-  } else {
-    to.WavLeft = from.WavLeft;
-    to.WavRight = from.WavRight;
-  }
-}
 
 }  // namespace
 
@@ -199,7 +181,8 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
         return fail(Tonvane::tr("Sorry but the file ") + full + Tonvane::tr(" has errors. ") + FlacStatusText(m.flacError));
       return fail(Tonvane::tr("Sorry, but the test of the file ") + full + Tonvane::tr(" has failed."));
     }
-    TakeGroup(s.m_result, m.result, mode, s.m_showDb);
+    // The other groups stay as the log's row had them.
+    TakeGroup(s.m_result, m.result, mode, s.m_showDb != 0);
     StoreInLog(s, full, mode);
   }
 

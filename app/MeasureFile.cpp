@@ -68,3 +68,20 @@ MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortabl
   }
   return r;
 }
+
+void TakeGroup(LevelResult& to, const LevelResult& from, int testMode, bool showDb) {
+  if (testMode == 1) {
+    to.GainLeft = from.GainLeft;
+    to.GainRight = from.GainRight;
+    to.NoClippingLeft = from.NoClippingLeft;
+    to.NoClippingRight = from.NoClippingRight;
+  } else if (showDb) {
+    to.WavPikLeft = from.WavPikLeft;
+    to.WavPikRight = from.WavPikRight;
+    to.WavPikNoClippingLeft = from.WavPikNoClippingLeft;
+    to.WavPikNoClippingRight = from.WavPikNoClippingRight;
+  } else {
+    to.WavLeft = from.WavLeft;
+    to.WavRight = from.WavRight;
+  }
+}

@@ -51,3 +51,7 @@ struct MeasureReport {
 // come through for Ok: 0 peak, 1 average, -1 whatever the samples give. `control` can stop or pause it from
 // another thread and receives the progress. Never throws.
 MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control);
+
+// Copies the group of one test (1: average; 0: peak in dB when `showDb`, else in percent)
+// from a measurement into `to`; the other groups of `to` stay as they are.
+void TakeGroup(LevelResult& to, const LevelResult& from, int testMode, bool showDb);

@@ -24,25 +24,6 @@ class ControlAbortable : public IAbortable {
   BatchControl& m_control;
 };
 
-// The group of this test; the others keep their not-measured marks.
-LevelResult TakeGroup(const LevelResult& from, int mode, bool showDb) {
-  LevelResult to;
-  if (mode == 1) {
-    to.GainLeft = from.GainLeft;
-    to.GainRight = from.GainRight;
-    to.NoClippingLeft = from.NoClippingLeft;
-    to.NoClippingRight = from.NoClippingRight;
-  } else if (showDb) {
-    to.WavPikLeft = from.WavPikLeft;
-    to.WavPikRight = from.WavPikRight;
-    to.WavPikNoClippingLeft = from.WavPikNoClippingLeft;
-    to.WavPikNoClippingRight = from.WavPikNoClippingRight;
-  } else {
-    to.WavLeft = from.WavLeft;
-    to.WavRight = from.WavRight;
-  }
-  return to;
-}
 
 }  // namespace
 
@@ -65,7 +46,8 @@ BatchMeasureResult MeasureForBatch(const BatchMeasureRequest& request, BatchCont
   out.sampleBytes = m.sampleBytes;
   if (m.status == MeasureStatus::Ok) {
     out.status = BatchMeasureResult::Ok;
-    out.result = TakeGroup(m.result, mode, request.showDb);
+    // This test's group; the others keep their not-measured marks.
+    TakeGroup(out.result, m.result, mode, request.showDb);
     return out;
   }
   if (m.status == MeasureStatus::Stopped || control.IsCancelled()) {
