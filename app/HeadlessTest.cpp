@@ -34,7 +34,6 @@ void ResetFile(Session& s) {
   s.m_levelLeft = s.m_levelRight = -1.0f;
   s.m_noClipDbLeft = s.m_noClipDbRight = 0;
   s.m_result = LevelResult{};
-  s.m_cancelRequested = 0;
 }
 
 LogTest GroupOf(int testMode, int showDb) {
@@ -194,33 +193,18 @@ HeadlessReport TestFileHeadless(Session& s, RecordingPrompt& prompt, const QStri
   return r;
 }
 
-int RunTestOnOpenFile(Session& s, bool& fromLog) {
-  fromLog = false;
-  if (g_workPath.isEmpty() || s.m_fileNotOpened) {
-    s.m_statusText = Tonvane::tr("  Test is stopped");
-    const bool yes = s.m_prompt.Ask(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it.\n"
-                                                "Do You want to open a dialog of selection a file?"));
-    s.m_statusText.clear();
-    if (yes) {
-      s.m_fileNotOpened = 0;
-      OnFileOpen(s);
-    }
-    return 0;
-  }
-  s.m_testRunning = 1;
+namespace {
+
+// The test inside its scope; a file dialog asked for during it is shown by the caller.
+int RunTestInScope(Session& s, bool& fromLog) {
   s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 0;
   s.m_statusText = Tonvane::tr("  Test of the volume level is fulfilling");
-  s.m_cancelRequested = 0;
   s.SetProgress(0);
   // The title carries the percent form while the test runs (m_savedTitle is the plain one).
   if (s.m_savedTitle.isEmpty()) s.m_savedTitle = s.m_title;
   auto stop = [&s]() {
     s.m_title = s.m_savedTitle;
-    s.m_testRunning = 0;
     s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
-    // A question answered Yes during the test (a work file without sound data) asks for
-    // another file once the test has let go of this one.
-    if (s.m_openDialogPending) OnFileOpen(s);
     return 0;
   };
   // The stop sequence: nothing of the file stays open, the user must open it again.
@@ -233,7 +217,7 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   // The bar creeps towards 30 percent while the worker still fills the work file.
   int waited = 0;
   while (g_workerBusy.load()) {
-    if (!s.PumpMessages() || s.m_exitRequested) return stop();
+    if (!s.PumpMessages()) return stop();
     QThread::msleep(20);
     if (++waited % 25 == 0 && s.m_progressPercent < 30) s.SetProgress(s.m_progressPercent + 1);
     if (waited * 20 > kWorkerTimeoutMs) {
@@ -256,11 +240,10 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   if (LookUpLog(s, key, mode, fromLog)) {
     s.SetProgress(100);
   } else {
-    s.m_cancelSeen = 0;
     if (!MeasureWorkFile(s, mode)) {
       // The scanner stops alike for a cancel and for a file it cannot read; only the
       // latter is worth a word.
-      if (mode == 0 && !s.m_cancelSeen && !s.m_exitRequested)
+      if (mode == 0 && !s.m_job.IsAborted())
         s.m_prompt.Message(Tonvane::tr("Sorry, the test is stopped because the file has errors."));
       return stop();
     }
@@ -268,8 +251,33 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
     s.SetProgress(100);
   }
   s.m_title = s.m_savedTitle;
-  s.m_testRunning = 0;
   s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 1;
   s.m_progressShown = 1;
   return 1;
+}
+
+}  // namespace
+
+int RunTestOnOpenFile(Session& s, bool& fromLog) {
+  fromLog = false;
+  if (g_workPath.isEmpty() || s.m_fileNotOpened) {
+    s.m_statusText = Tonvane::tr("  Test is stopped");
+    const bool yes = s.m_prompt.Ask(Tonvane::tr("Sorry, the test is stopped because the file was not opened for it.\n"
+                                                "Do You want to open a dialog of selection a file?"));
+    s.m_statusText.clear();
+    if (yes) {
+      s.m_fileNotOpened = 0;
+      OnFileOpen(s);
+    }
+    return 0;
+  }
+  int ok = 0;
+  {
+    TestScope scope(s);
+    ok = RunTestInScope(s, fromLog);
+  }
+  // A question answered Yes during the test (a work file without sound data) asks for
+  // another file once the test has let go of this one.
+  if (s.m_openDialogPending) OnFileOpen(s);
+  return ok;
 }

@@ -1,7 +1,8 @@
 #pragma once
-// The pump seam. Long work on the main thread (scanner, gain engine, batch run) calls
-// Session::PumpMessages by time or by chunk, never per sample; the GUI processes its
-// events there, the CLI and tests may cancel or pause on a schedule.
+// The pump seam: the front end's events. Long work on the main thread (scanner, gain
+// engine) reaches it through the session's job control (Session::m_job) by time or by
+// chunk, never per sample; the GUI processes its events there. Cancel and pause are the
+// job control's, not the pump's.
 #include <functional>
 
 class IPump {
@@ -29,7 +30,7 @@ class NullPump : public IPump {
 };
 
 // Test double: runs a hook on every call with its running count (1, 2, ...), so a test
-// can set m_cancelRequested or m_pauseToggle at a chosen moment.
+// can abort or pause the session's job at a chosen moment.
 class SchedulePump : public IPump {
  public:
   void ProcessEvents() override {

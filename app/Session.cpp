@@ -3,7 +3,11 @@
 #include "app/Globals.h"
 #include "app/Settings.h"
 
-Session::Session() = default;
+Session::Session() {
+  m_job.SetFrontEnd([this] {
+    if (m_pump) m_pump->ProcessEvents();
+  });
+}
 
 void Session::LoadSettings() {
   m_language = Settings::Language();
@@ -15,15 +19,7 @@ void Session::LoadSettings() {
   m_patchFolder = Settings::PatchFolder();
 }
 
-int Session::PumpMessages() {
-  if (m_pump) m_pump->ProcessEvents();
-  if (m_cancelRequested && !m_testPaused) {
-    m_cancelRequested = 0;
-    m_cancelSeen = 1;
-    return 0;
-  }
-  return 1;
-}
+int Session::PumpMessages() { return m_job.Checkpoint(-1) ? 1 : 0; }
 
 void Session::SetProgress(int percent) {
   m_progressPercent = percent;

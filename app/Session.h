@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "app/Job.h"
 #include "app/Prompt.h"
 #include "app/Pump.h"
 #include "level/LevelResult.h"
@@ -27,12 +28,9 @@ constexpr int kDriveFixed = 3;
 constexpr int kDriveCdRom = 5;
 
 // Message numbers kept from the window protocol; here they are direct calls.
-constexpr unsigned kMsgGainPoll = 0x8006;
 constexpr unsigned kMsgGainStep = 0x8007;
 constexpr unsigned kMsgBatchProgress = 0x800d;
 constexpr unsigned kMsgBatchTakePosition = 0x801d;
-constexpr unsigned kMsgBatchPaused = 0x8049;
-constexpr unsigned kMsgBatchResumed = 0x804a;
 constexpr unsigned kMsgBatchStart = 0x8026;
 
 // Timer ids of the main window.
@@ -55,12 +53,14 @@ constexpr uint32_t kAllocGranularity = 65536;
 
 struct Session {
   Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
 
   // Reads the settings of the table (the constructor of the main dialog, step 7).
   void LoadSettings();
 
-  // Lets the front end run, then reports a pending cancel exactly once: 0 after a
-  // cancel, 1 otherwise. While a measurement is paused no cancel is reported.
+  // Lets the front end run (holding there while the test is paused): 0 once the running
+  // test has been cancelled, 1 otherwise.
   int PumpMessages();
   // Sets m_progressPercent and tells the front end.
   void SetProgress(int percent);
@@ -71,6 +71,10 @@ struct Session {
   // Seams.
   Prompter m_prompt;
   IPump* m_pump = nullptr;
+  // The steering of the running test (scanner, gain engine, the wait for the worker): the
+  // front end cancels with Abort and pauses with SetPaused; a test resets it on entry and
+  // on every way out. Its front end is the pump, on the thread that made the session.
+  JobControl m_job;
 
   // --- Source and work file (SourceFormat) ---
   int m_sourceKind = kKindWav;
@@ -123,11 +127,7 @@ struct Session {
   int m_testMode = 0;  // 0 peak, 1 average
   int m_showDb = 0;
   int m_testRunning = 0;
-  int m_cancelRequested = 0;
-  int m_cancelSeen = 0;  // PumpMessages has reported a cancel (a stop that was asked for)
-  int m_exitRequested = 0;
-  int m_pauseToggle = 0;
-  int m_testPaused = 0;
+  int m_exitRequested = 0;  // set with m_job.Abort(): the program ends once the test has stopped
   float m_levelLeft = -1.0f;
   float m_levelRight = -1.0f;
   float m_noClippingLeft = 0, m_noClippingRight = 0;
@@ -168,4 +168,18 @@ struct Session {
   QString m_restoreTempName;
   QString m_language;
   QString m_patchFolder;
+};
+
+// The span of a test: m_testRunning is set and the job control is fresh; on every way out
+// the flag falls and the control is reset, so a late cancel cannot reach the next test.
+class TestScope {
+ public:
+  explicit TestScope(Session& s) : m_s(s), m_running(s.m_testRunning) { m_s.m_job.Reset(); }
+  ~TestScope() { m_s.m_job.Reset(); }
+  TestScope(const TestScope&) = delete;
+  TestScope& operator=(const TestScope&) = delete;
+
+ private:
+  Session& m_s;
+  ScopedFlag m_running;
 };

@@ -50,16 +50,6 @@ struct Slot {
   BatchMeasureResult result;
 };
 
-// Sets a session flag for the life of the run.
-class ScopedFlag {
- public:
-  explicit ScopedFlag(int& flag) : m_flag(flag) { m_flag = 1; }
-  ~ScopedFlag() { m_flag = 0; }
-
- private:
-  int& m_flag;
-};
-
 }  // namespace
 
 void BatchEstimate::Start(double now, uint64_t bytesToMeasure) {

@@ -29,11 +29,16 @@ bool EndsWithAny(const QString& name, std::initializer_list<const char*> suffixe
 }
 
 // Marks the session as inside an open for as long as the scope lives, so that a request
-// for the file dialog made from inside waits for the open to finish.
+// for the file dialog made from inside waits for the open to finish; m_opening stands
+// from the start of the outermost open and falls on every way out of it.
 class OpenScope {
  public:
-  explicit OpenScope(Session& s) : m_s(s) { ++m_s.m_openDepth; }
-  ~OpenScope() { --m_s.m_openDepth; }
+  explicit OpenScope(Session& s) : m_s(s) {
+    if (m_s.m_openDepth++ == 0) m_s.m_opening = 1;
+  }
+  ~OpenScope() {
+    if (--m_s.m_openDepth == 0) m_s.m_opening = 0;
+  }
   OpenScope(const OpenScope&) = delete;
   OpenScope& operator=(const OpenScope&) = delete;
 
@@ -64,7 +69,6 @@ int KindForOpen(Session& s, const QString& name) {
 }
 
 void GiveUp(Session& s) {
-  s.m_opening = 0;
   ClearFileDisplay(s);
   ClearSessionPaths();
 }
@@ -107,7 +111,6 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
 
   if (CheckFileName(s, ask) != 0) {
     if (!ask) s.m_bits = savedBits;
-    s.m_opening = 0;
     return 0;
   }
   s.m_sourceKind = KindForOpen(s, path);
@@ -162,7 +165,6 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
     s.m_statusText = status;
     if (s.m_sourceKind != kKindFlac) CloseWorkFile(s);
     ClearSessionPaths();
-    s.m_opening = 0;
     return 0;
   }
 
@@ -170,13 +172,11 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
   s.m_title = QFileInfo(path).fileName() + Tonvane::tr(" - Tonvane 1.0");
   s.m_levelLeft = s.m_levelRight = -1.0f;
   s.m_fileNotOpened = 0;
-  s.m_opening = 0;
   return 1;
 }
 
 void RunOpenDialog(Session& s) {
   OpenScope scope(s);
-  s.m_opening = 1;
   const int savedBits = s.m_bits;
   s.m_bits = 0;
   s.m_canPlay = 1;
@@ -184,7 +184,6 @@ void RunOpenDialog(Session& s) {
   if (chosen.isEmpty() || chosen == s.m_fileName) {
     // Cancel, or the file that is open already: nothing changes.
     s.m_bits = savedBits;
-    s.m_opening = 0;
     return;
   }
   OpenPath(s, chosen, 1, savedBits);
@@ -306,7 +305,6 @@ int OpenFileHeadless(Session& s, const QString& path) {
   int ok = 0;
   {
     OpenScope scope(s);
-    s.m_opening = 1;
     const int savedBits = s.m_bits;
     s.m_bits = 0;
     s.m_canPlay = 1;
@@ -355,7 +353,6 @@ void RefuseUnsupportedFormat(Session& s) {
   if (s.m_prompt.Ask(UnsupportedFormatQuestion(s.m_fileName))) {
     OnFileOpen(s);  // inside the open: shown once the refused file has been let go
   } else {
-    s.m_opening = 0;
     s.m_fileNotOpened = 1;
   }
 }

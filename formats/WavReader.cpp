@@ -296,7 +296,6 @@ int OpenWav(Session& s) {
     if (s.m_prompt.Ask(UnsupportedQuestion(path))) {
       ReopenDialog(s);
     } else {
-      s.m_opening = 0;
       CloseWorkFile(s);
     }
     return 0;
@@ -315,7 +314,6 @@ int OpenWav(Session& s) {
     if (yes) {
       ReopenDialog(s);
     } else {
-      s.m_opening = 0;
       CloseWorkFile(s);
       s.m_fileNotOpened = 1;
     }

@@ -5,7 +5,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstring>
-#include <thread>
 #include <vector>
 
 #include "app/Globals.h"
@@ -20,24 +19,16 @@
 
 namespace {
 
-// The running analysis's steering, as beChangePause and beChangexitAnaliz leave it. One
-// analysis at a time: both calls arrive on the analysing thread, from within the poll.
-struct Steering {
-  int running = 0;
-  int paused = 0;
-  int exit = 0;
-};
-Steering g_steering;
-
 // Pacing: the poll comes every 16 ms of work, or sooner after 64 Ki frames; samples are
 // read and converted in chunks.
 constexpr auto kPollInterval = std::chrono::milliseconds(16);
 constexpr uint64_t kPollFrames = 65536;
-constexpr auto kPausedSleep = std::chrono::milliseconds(10);
 constexpr size_t kChunkFrames = 4096;
 constexpr uint64_t kReadWindow = 16u << 20;
 
-// One analysis from its call to its return: polls, progress steps, steering.
+// One analysis from its call to its return: polls, progress steps. The poll is the
+// checkpoint of the session's job: it lets the front end run, holds while the test is
+// paused and tells when it is to stop.
 class AnalysisRun {
  public:
   AnalysisRun(Session& dialog, IBatchProgressTarget* batchProgress, int progressCount, int batch)
@@ -45,21 +36,17 @@ class AnalysisRun {
     // A single test has made `progressCount` of its 100 steps already; a batch file is
     // worth `progressCount` steps on the batch bar.
     m_steps = m_batch ? std::max(progressCount, 0) : std::clamp(100 - progressCount, 0, 100);
-    g_steering = Steering{1, 0, 0};
     m_lastPoll = std::chrono::steady_clock::now();
   }
-  ~AnalysisRun() { g_steering = Steering{}; }
 
-  // One poll; while the analysis is paused keeps polling. False once it is to stop.
-  bool Poll() {
-    OnGainPoll(m_dialog);
-    while (g_steering.paused && !g_steering.exit) {
-      std::this_thread::sleep_for(kPausedSleep);
-      OnGainPoll(m_dialog);
-    }
+  // One poll. False once the analysis is to stop; the test is stopped then, once.
+  bool Poll(double fraction = -1) {
     m_framesSincePoll = 0;
     m_lastPoll = std::chrono::steady_clock::now();
-    return !g_steering.exit;
+    if (m_dialog.m_job.Checkpoint(fraction)) return true;
+    if (!m_stopped) m_dialog.StopTest();
+    m_stopped = true;
+    return false;
   }
 
   // After a chunk of `frames` frames, with `fraction` of the work done.
@@ -67,7 +54,7 @@ class AnalysisRun {
     Advance(fraction);
     m_framesSincePoll += frames;
     if (m_framesSincePoll >= kPollFrames || std::chrono::steady_clock::now() - m_lastPoll >= kPollInterval)
-      return Poll();
+      return Poll(fraction);
     return true;
   }
 
@@ -93,6 +80,7 @@ class AnalysisRun {
   bool m_batch;
   int m_steps = 0;
   int m_sent = 0;
+  bool m_stopped = false;
   uint64_t m_framesSincePoll = 0;
   std::chrono::steady_clock::time_point m_lastPoll;
 };
@@ -152,29 +140,6 @@ void GainFigures(const ReplayGainAnalyser& an, int bits, float& gainLeft, float&
     gainRight = gainLeft;
     noClippingRight = noClippingLeft;
   }
-}
-
-void beChangePause() {
-  if (g_steering.running) g_steering.paused = !g_steering.paused;
-}
-
-void beChangexitAnaliz() {
-  if (g_steering.running) g_steering.exit = 1;
-}
-
-int OnGainPoll(Session& s) {
-  const int go = s.PumpMessages();
-  if (go == 0 || s.m_exitRequested) {
-    beChangexitAnaliz();
-    s.m_pauseToggle = 0;
-    s.m_testPaused = 0;
-    s.StopTest();
-  } else if (s.m_pauseToggle) {
-    beChangePause();
-    s.m_pauseToggle = 0;
-    s.m_testPaused = 0;
-  }
-  return 0;
 }
 
 int OnGainStep(Session& s) {

@@ -1,9 +1,10 @@
 #pragma once
 // The gain engine: the loudness of each channel as a gain g against the 89 dB reference
 // (89 - g is the channel's level) and a margin n (the peak in dB against full scale, so
-// (89 - g) - n is the highest level without clipping). It runs on the caller's thread and
-// talks back through the poll (kMsgGainPoll) and the progress step (kMsgGainStep), which
-// here are direct calls of OnGainPoll and OnGainStep on the session.
+// (89 - g) - n is the highest level without clipping). It runs on the caller's thread; it
+// is steered through the session's job control (m_job: cancel, pause, the front end's
+// events), polled every 16 ms of work, and moves the bar by the progress step
+// (kMsgGainStep), here a direct call of OnGainStep on the session.
 //
 // Levels are those of raw integer samples of the word size: 89 - g grows by 48 dB per
 // 8 bits, so full level reads about 41, 89, 137 and 185 dB at 8, 16, 24 and 32 bits.
@@ -37,7 +38,8 @@ class IBatchProgressTarget {
 // that this file is worth on the batch bar. `windowedMapping` is not needed: the file is
 // read in windows of its own. In a single test the data chunk is the one the test found
 // (the session's m_dataOffset and m_dataSize); otherwise the engine finds it.
-// Returns kGainOk, kGainCannotAnalyse (nothing shown) or kGainStopped.
+// Returns kGainOk, kGainCannotAnalyse (nothing shown) or kGainStopped (the session's job
+// was aborted; StopTest has run).
 int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgressTarget* batchProgress,
         int channels, int bits, float& gainLeft, float& gainRight, float& noClippingLeft,
         float& noClippingRight, int& progressCount, int formatTag, int batch);
@@ -47,17 +49,7 @@ int beGetRadioGain(const QString& path, Session& dialog, IBatchProgressTarget* b
                    float& gainLeft, float& gainRight, float& noClippingLeft, float& noClippingRight,
                    int& progressCount, int batch, int driveType);
 
-// Steering of the running analysis, called from within the poll: beChangePause switches
-// it between running and paused (paused, it keeps polling and makes no progress);
-// beChangexitAnaliz makes it end soon with kGainStopped.
-void beChangePause();
-void beChangexitAnaliz();
-
-// Handlers of the engine's two messages on the main window.
-// The poll: runs the pump; on a cancel or a request to exit stops the analysis and the
-// test; on a pause request switches the analysis's pause.
-int OnGainPoll(Session& s);
-// One step of the single test's progress, never past 100.
+// The handler of the engine's progress message on the main window: one step of the single test's progress, never past 100.
 int OnGainStep(Session& s);
 
 // The average test of the open file: RMS on the work file of a PCM kind, beGetRadioGain

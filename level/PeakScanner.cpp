@@ -267,12 +267,11 @@ void Prefault(const uint8_t* p, uint64_t bytes) {
 // this thread reads the first half, polls and moves the progress.
 constexpr uint64_t kSplitBytes = 8u << 20;
 
-// The helper's half of a view. It stops between two chunks when asked, and holds while
-// the test is paused.
+// The helper's half of a view. It stops between two chunks when the job is aborted or the
+// scan ends early, and holds in the job's checkpoint while the test is paused.
 class HalfScan {
  public:
-  enum State { kRun, kPause, kStop };
-  explicit HalfScan(const SampleBlock& block) : m_x(block), m_frameBytes(block.frameBytes) {}
+  HalfScan(const SampleBlock& block, IAbortable& control) : m_x(block), m_frameBytes(block.frameBytes), m_control(control) {}
   ~HalfScan() { Stop(); }
 
   // False when no thread could be started; the caller then reads the whole view itself.
@@ -284,9 +283,8 @@ class HalfScan {
     }
     return true;
   }
-  void SetPaused(bool paused) { m_state = paused ? kPause : kRun; }
   void Stop() {
-    m_state = kStop;
+    m_stop = true;
     if (m_thread.joinable()) m_thread.join();
   }
   // Frames read so far.
@@ -301,11 +299,7 @@ class HalfScan {
 
  private:
   void Run(const uint8_t* p, uint64_t frames) {
-    while (frames > 0 && m_state != kStop) {
-      if (m_state == kPause) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        continue;
-      }
+    while (frames > 0 && !m_stop && m_control.Checkpoint(-1)) {
       const uint64_t n = std::min<uint64_t>(frames, kPumpFrames);
       Prefault(p, n * m_frameBytes);
       m_x.Feed(p, size_t(n));
@@ -322,7 +316,8 @@ class HalfScan {
 
   PeakExtremes m_x;
   uint32_t m_frameBytes;
-  std::atomic<int> m_state{kRun};
+  IAbortable& m_control;
+  std::atomic<bool> m_stop{false};
   std::atomic<uint64_t> m_done{0};
   std::atomic<bool> m_finished{false};
   std::mutex m_mutex;
@@ -333,9 +328,6 @@ class HalfScan {
 class Scan {
  public:
   explicit Scan(Session& s) : m_s(s) {}
-
-  // The helper of the view being read, paused along with the test.
-  void SetHelper(HalfScan* h) { m_helper = h; }
 
   // One progress step of the single test or of the batch bar.
   void Step() {
@@ -350,33 +342,12 @@ class Scan {
     }
   }
 
-  // Holds while the batch dialog's Pause is down; a closing program also leaves.
-  void PauseIfAsked() {
-    if (!m_s.m_pauseToggle) return;
-    m_s.m_pauseToggle = 0;
-    m_s.m_testPaused = 1;
-    if (m_helper) m_helper->SetPaused(true);
-    if (m_s.m_hBatchProgress) m_s.m_hBatchProgress->Send(kMsgBatchPaused);
-    while (!m_s.m_pauseToggle && !m_s.m_exitRequested) {
-      m_s.PumpMessages();
-      if (!m_s.m_pauseToggle) std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    m_s.m_pauseToggle = 0;
-    m_s.m_testPaused = 0;
-    if (m_helper) m_helper->SetPaused(false);
-    if (m_s.m_hBatchProgress) m_s.m_hBatchProgress->Send(kMsgBatchResumed);
-  }
-
-  // False when the user cancelled or the program is closing.
-  bool KeepGoing() {
-    if (m_s.PumpMessages() == 0 || m_s.m_exitRequested) return false;
-    PauseIfAsked();
-    return true;
-  }
+  // The job's checkpoint: lets the front end run and holds while the test is paused.
+  // False once the test is cancelled or the program is closing.
+  bool KeepGoing(double fraction) { return m_s.m_job.Checkpoint(fraction); }
 
  private:
   Session& m_s;
-  HalfScan* m_helper = nullptr;
 };
 
 // Looks for the data chunk in the first bytes of the file when no reader has given it.
@@ -500,7 +471,6 @@ int ScanPeakLevels(Session& s) {
     };
     auto stop = [&](HalfScan* h) {
       if (h) h->Stop();
-      scan.SetHelper(nullptr);
       file.Unmap();
       s.m_mappedView = nullptr;
       s.StopTest();
@@ -510,18 +480,19 @@ int ScanPeakLevels(Session& s) {
     std::unique_ptr<HalfScan> helper;
     uint64_t mine = frames;
     if (frames * block.frameBytes >= kSplitBytes && std::thread::hardware_concurrency() > 1) {
-      helper = std::make_unique<HalfScan>(block);
+      helper = std::make_unique<HalfScan>(block, s.m_job);
       mine = frames / 2;
-      if (helper->Start(p + mine * block.frameBytes, frames - mine)) {
-        scan.SetHelper(helper.get());
-      } else {
+      if (!helper->Start(p + mine * block.frameBytes, frames - mine)) {
         helper.reset();
         mine = frames;
       }
     }
     uint64_t helperSeen = 0;
+    // The share of the whole scan done, for the job's progress.
+    const uint64_t myHalf = mine;
+    auto done = [&] { return (index + (frames ? double(myHalf - mine + helperSeen) / double(frames) : 1.0)) / passes; };
     while (mine > 0) {
-      if (!scan.KeepGoing()) return stop(helper.get());
+      if (!scan.KeepGoing(done())) return stop(helper.get());
       uint64_t n = std::min(mine, kPumpFrames);
       if (interval > 0 && !helper) n = std::min(n, interval - counted);
       Prefault(p, n * block.frameBytes);
@@ -541,14 +512,13 @@ int ScanPeakLevels(Session& s) {
     if (helper) {
       // The rest of the helper's half, polling as before.
       while (!helper->Finished()) {
-        if (!scan.KeepGoing()) return stop(helper.get());
+        if (!scan.KeepGoing(done())) return stop(helper.get());
         helper->WaitFor(16);
         const uint64_t done = helper->Done();
         account(done - helperSeen);
         helperSeen = done;
       }
       helper->Stop();
-      scan.SetHelper(nullptr);
       account(helper->Done() - helperSeen);
       g_sampleBytesRead += helper->Done() * block.frameBytes;
       x.Merge(helper->Extremes());
@@ -556,7 +526,7 @@ int ScanPeakLevels(Session& s) {
     }
     file.Unmap();
     s.m_mappedView = nullptr;
-    if (!scan.KeepGoing()) {
+    if (!scan.KeepGoing(double(index + 1) / passes)) {
       s.StopTest();
       return 1;
     }

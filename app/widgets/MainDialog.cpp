@@ -905,7 +905,7 @@ void CBrenlowv10Dlg::StopTestUi() {
 
 void CBrenlowv10Dlg::OnTest() {
   if (m_s.m_testRunning) {
-    m_s.m_cancelRequested = 1;  // the running test ends from inside its own loop
+    m_s.m_job.Abort();  // the running test ends from inside its own loop
     return;
   }
   ClearTimeLabels();
@@ -945,6 +945,7 @@ void CBrenlowv10Dlg::OnDatabase() {
 void CBrenlowv10Dlg::OnExit() {
   if (m_s.m_testRunning) {
     m_s.m_exitRequested = 1;
+    m_s.m_job.Abort();
     return;
   }
   if (g_workerBusy.load()) return;
@@ -959,6 +960,7 @@ void CBrenlowv10Dlg::closeEvent(QCloseEvent* e) {
   }
   if (m_s.m_testRunning) {
     m_s.m_exitRequested = 1;
+    m_s.m_job.Abort();
     e->ignore();
     return;
   }

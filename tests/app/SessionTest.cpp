@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 #include "app/FileErrors.h"
 #include "app/Settings.h"
 #include "support/TestSupport.h"
@@ -34,17 +38,36 @@ TEST(Settings, PatchLogDefaultsBesideDataFolderAndIsWrittenBack) {
   EXPECT_TRUE(Settings::Has("PatchLog"));
 }
 
-TEST(Session, PumpReportsCancelOnceAndNotWhilePaused) {
+// The job control: a pause on the front end's thread keeps the front end running (the
+// resume comes from there); a worker sleeps in its checkpoint until resumed or aborted; a
+// test's scope leaves neither a cancel nor the running flag behind.
+TEST(Session, JobControlPauseCancelAndTestScope) {
   TestSession t;
   Session& s = *t.s;
-  EXPECT_EQ(s.PumpMessages(), 1);
-  s.m_cancelRequested = 1;
-  s.m_testPaused = 1;
-  EXPECT_EQ(s.PumpMessages(), 1);
-  s.m_testPaused = 0;
-  EXPECT_EQ(s.PumpMessages(), 0);
+  t.pump.onPump = [&](int call) {
+    if (call == 1) s.m_job.SetPaused(true);
+    if (call == 4) s.m_job.SetPaused(false);
+  };
   EXPECT_EQ(s.PumpMessages(), 1);
   EXPECT_EQ(t.pump.calls, 4);
+
+  std::atomic<int> passed{0};
+  s.m_job.SetPaused(true);
+  std::thread worker([&] {
+    while (s.m_job.Checkpoint(0.5)) ++passed;
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(30));
+  EXPECT_EQ(passed.load(), 0);
+  {
+    TestScope scope(s);  // a fresh control: the worker runs on
+    EXPECT_EQ(s.m_testRunning, 1);
+    while (passed.load() == 0) std::this_thread::yield();
+    s.m_job.Abort();
+    worker.join();
+    EXPECT_EQ(s.PumpMessages(), 0);
+  }
+  EXPECT_EQ(s.m_testRunning, 0);
+  EXPECT_EQ(s.PumpMessages(), 1);
 }
 
 TEST(FileErrors, TableTextsAndErrnoMapping) {

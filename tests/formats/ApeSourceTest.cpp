@@ -105,7 +105,6 @@ TEST(ApeSource, RefusesThirtyTwoBitsAndMoreThanTwoChannelsWithTheQuestion) {
     TestSession t;
     Session& s = *t.s;
     const QString src = StageApe(t, file, "r.ape");
-    s.m_opening = 1;
     EXPECT_EQ(OpenAndWait(t, src), 0);
     ASSERT_EQ(t.prompt.requests.size(), 1u);
     EXPECT_TRUE(t.prompt.requests[0].yesNo);

@@ -124,7 +124,6 @@ TEST(WavReader, UnsupportedCombinationsAreRefusedWithTheQuestion) {
     ASSERT_FALSE(c.bytes.isEmpty());
     TestSession t;
     Session& s = *t.s;
-    s.m_opening = 1;
     ASSERT_EQ(OpenBytes(t, c.bytes, c.name), 0);
     ASSERT_EQ(t.prompt.requests.size(), 1u);
     EXPECT_TRUE(t.prompt.requests[0].yesNo);
@@ -177,7 +176,6 @@ TEST(WavReader, BadHeadersGetTheirTexts) {
 
   // Format tag 0.
   t.prompt.clear();
-  s.m_opening = 1;
   EXPECT_EQ(OpenBytes(t, Pcm(0, 2, 44100, 16, 64), "tag0.wav"), 0);
   EXPECT_EQ(t.prompt.texts(), QStringList("Sorry, but the file " + t.Path("tag0.wav") +
                                           " has unsupported by the program a format of sound data." + kTail));

@@ -249,7 +249,7 @@ TEST(GainEngineSteering, CancelStopsWithSixAndASecondStopTestDoesNoHarm) {
   s.m_savedTitle = "Song.wav - Tonvane";
   s.m_uiEnabledA = s.m_uiEnabledB = s.m_canPlay = 0;
   t.pump.onPump = [&](int call) {
-    if (call == 2) s.m_cancelRequested = 1;
+    if (call == 2) s.m_job.Abort();
   };
   const Figures f = Rms(s, Fixture("gain_pink.wav"), 2, 16);
   EXPECT_EQ(f.rc, kGainStopped);
@@ -265,19 +265,14 @@ TEST(GainEngineSteering, CancelStopsWithSixAndASecondStopTestDoesNoHarm) {
   EXPECT_EQ(s.m_progressPercent, 0);
   EXPECT_EQ(t.pump.progressCalls, progressCalls + 1);
 
-  // A request to leave the program stops an MP3 analysis the same way.
+  // An MP3 analysis stops the same way, from within the decoder's frames.
+  s.m_job.Reset();
   t.pump.onPump = [&](int call) {
-    if (call == 3) s.m_exitRequested = 1;
+    if (call == 3) s.m_job.Abort();
   };
   t.pump.calls = 0;
   EXPECT_EQ(RadioGain(s, Fixture("gain_stereo.mp3")).rc, kGainStopped);
   EXPECT_EQ(t.pump.calls, 3);
-  // Steering outside an analysis changes nothing for the next one.
-  s.m_exitRequested = 0;
-  beChangexitAnaliz();
-  beChangePause();
-  t.pump.onPump = nullptr;
-  EXPECT_EQ(Rms(s, Fixture("gain_short.wav"), 2, 16).rc, kGainOk);
 }
 
 TEST(GainEngineSteering, PauseHoldsProgressWhileThePollGoesOn) {
@@ -286,7 +281,7 @@ TEST(GainEngineSteering, PauseHoldsProgressWhileThePollGoesOn) {
   std::vector<int> progressAtPoll;
   t.pump.onPump = [&](int call) {
     progressAtPoll.push_back(s.m_progressPercent);
-    if (call == 2 || call == 12) s.m_pauseToggle = 1;  // pause, then resume
+    if (call == 2 || call == 12) s.m_job.TogglePause();  // pause, then resume
   };
   const Figures f = Rms(s, Fixture("gain_pink.wav"), 2, 16);
   ASSERT_EQ(f.rc, kGainOk);
@@ -294,13 +289,11 @@ TEST(GainEngineSteering, PauseHoldsProgressWhileThePollGoesOn) {
   EXPECT_GT(progressAtPoll[1], 0);
   for (int call = 3; call <= 12; ++call) EXPECT_EQ(progressAtPoll[call - 1], progressAtPoll[1]) << call;
   EXPECT_EQ(s.m_progressPercent, 100);
-  EXPECT_EQ(s.m_pauseToggle, 0);
-  EXPECT_EQ(s.m_testPaused, 0);
   // A cancel while paused reaches the engine through the same poll.
   t.pump.calls = 0;
   t.pump.onPump = [&](int call) {
-    if (call == 2) s.m_pauseToggle = 1;
-    if (call == 5) s.m_cancelRequested = 1;
+    if (call == 2) s.m_job.SetPaused(true);
+    if (call == 5) s.m_job.Abort();
   };
   EXPECT_EQ(Rms(s, Fixture("gain_pink.wav"), 2, 16).rc, kGainStopped);
   EXPECT_EQ(t.pump.calls, 5);

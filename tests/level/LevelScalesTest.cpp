@@ -1,13 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "app/Session.h"
 #include "level/LevelDisplay.h"
 #include "level/LevelScales.h"
 
 namespace {
 
-Session AverageSession(int bits, int channels, bool db, float gl, float nl, float gr = 400, float nr = 400) {
-  Session s;
+std::unique_ptr<Session> AverageSession(int bits, int channels, bool db, float gl, float nl, float gr = 400,
+                                        float nr = 400) {
+  auto owned = std::make_unique<Session>();
+  Session& s = *owned;
   s.m_testMode = 1;
   s.m_bits = bits;
   s.m_channels = channels;
@@ -16,7 +20,7 @@ Session AverageSession(int bits, int channels, bool db, float gl, float nl, floa
   s.m_result.NoClippingLeft = nl;
   s.m_result.GainRight = gr;
   s.m_result.NoClippingRight = nr;
-  return s;
+  return owned;
 }
 
 }  // namespace
@@ -146,7 +150,8 @@ TEST(LevelDisplay, RulesByTestScaleAndChannels) {
 
 TEST(LevelDisplay, CollisionTouchesOnlyTheLowerMaximum) {
   // Both channels: level 78.2 dB; the right maximum 78.17 would also read 78.2.
-  Session s = AverageSession(16, 2, true, 10.8f, 0.02f, 10.8f, 0.03f);
+  const auto owned = AverageSession(16, 2, true, 10.8f, 0.02f, 10.8f, 0.03f);
+  Session& s = *owned;
   LevelShowing v = ShowResult(s, 100);
   EXPECT_NEAR(s.m_maxLevelRight, 78.07, 1e-4);
   EXPECT_EQ(v.maxLabel[1], "Max Level 78.1 dB");
@@ -161,7 +166,8 @@ TEST(LevelDisplay, CollisionTouchesOnlyTheLowerMaximum) {
 }
 
 TEST(LevelDisplay, AverageMonoPercent) {
-  Session s = AverageSession(16, 1, false, 0, -3);
+  const auto owned = AverageSession(16, 1, false, 0, -3);
+  Session& s = *owned;
   LevelShowing v = ShowResult(s, 60);
   EXPECT_FLOAT_EQ(s.m_levelLeft, 100.0f);
   EXPECT_EQ(s.m_levelRight, 0.0f);
@@ -227,7 +233,8 @@ TEST(LevelDisplay, PeakChannelsFromTheResult) {
 }
 
 TEST(LevelDisplay, Mp3StereoByModeAndNo250) {
-  Session s = AverageSession(16, 2, false, -120, 5, -120, 5);
+  const auto owned = AverageSession(16, 2, false, -120, 5, -120, 5);
+  Session& s = *owned;
   s.m_sourceKind = kKindMp3;
   s.m_mpegMode = 3;  // mono
   LevelShowing v = ShowResult(s, 100);

@@ -453,8 +453,8 @@ TEST(PeakScanner, WindowedTwentyFourBitFramesStayWhole) {
   EXPECT_EQ(k.s.m_levelRight, 100.0f);
 }
 
-TEST(PeakScanner, CancelExitAndPause) {
-  std::vector<int16_t> v = Quiet16(400000);  // 200000 frames: several pumps
+TEST(PeakScanner, CancelAndPause) {
+  std::vector<int16_t> v = Quiet16(400000);  // 200000 frames: several checkpoints
   v[399998] = 30000;
   const QByteArray data = Samples(v);
 
@@ -462,47 +462,31 @@ TEST(PeakScanner, CancelExitAndPause) {
   c.PrepareWav(2, 16, 1, data);
   c.s.m_testRunning = 1;
   c.t.pump.onPump = [&](int call) {
-    if (call == 2) c.s.m_cancelRequested = 1;
+    if (call == 2) c.s.m_job.Abort();
   };
   EXPECT_LT(c.BytesOf(1), unsigned(data.size()));
   EXPECT_EQ(c.s.m_levelLeft, -1.0f);
-  EXPECT_EQ(c.s.m_cancelRequested, 0);  // reported once
-  EXPECT_EQ(c.s.m_testRunning, 0);      // the test is ended
+  EXPECT_EQ(c.s.m_testRunning, 0);  // the test is ended
 
-  Scanner e;
-  e.PrepareWav(2, 16, 1, data);
-  e.t.pump.onPump = [&](int call) {
-    if (call == 3) e.s.m_exitRequested = 1;
-  };
-  EXPECT_EQ(ScanPeakLevels(e.s), 1);
-
-  // Paused at the second pump, resumed at the sixth; a cancel pressed in the pause waits.
+  // Paused at the second checkpoint, the front end keeps running; a cancel in the pause ends it.
   Scanner p;
-  RecordingBatch batch(p.s);
   p.PrepareWav(2, 16, 1, data);
-  p.s.m_hBatchProgress = &batch;
   bool pausedSeen = false;
   p.t.pump.onPump = [&](int call) {
-    if (call == 2) p.s.m_pauseToggle = 1;
+    if (call == 2) p.s.m_job.SetPaused(true);
     if (call == 4) {
-      pausedSeen = p.s.m_testPaused == 1;
-      p.s.m_cancelRequested = 1;
+      pausedSeen = p.s.m_job.IsPaused();
+      p.s.m_job.Abort();
     }
-    if (call == 6) p.s.m_pauseToggle = 1;
   };
   EXPECT_EQ(ScanPeakLevels(p.s), 1);
   EXPECT_TRUE(pausedSeen);
-  EXPECT_EQ(p.s.m_testPaused, 0);
-  EXPECT_EQ(p.s.m_pauseToggle, 0);
-  ASSERT_EQ(batch.sent.size(), 2u);
-  EXPECT_EQ(batch.sent[0].first, kMsgBatchPaused);
-  EXPECT_EQ(batch.sent[1].first, kMsgBatchResumed);
 
-  // The same pause without the cancel runs to the end with the right result.
+  // Paused and resumed, the scan runs to the end with the right result.
   Scanner q;
   q.PrepareWav(2, 16, 1, data);
   q.t.pump.onPump = [&](int call) {
-    if (call == 2 || call == 6) q.s.m_pauseToggle = 1;
+    if (call == 2 || call == 6) q.s.m_job.TogglePause();
   };
   EXPECT_EQ(q.BytesOf(), unsigned(data.size()));
   EXPECT_EQ(q.s.m_levelLeft, 92.0f);
@@ -528,7 +512,7 @@ TEST(PeakScanner, LargeViewsReadByTwoThreads) {
   c.PrepareWav(2, 16, 1, data);
   c.s.m_testRunning = 1;
   c.t.pump.onPump = [&](int call) {
-    if (call == 3) c.s.m_cancelRequested = 1;
+    if (call == 3) c.s.m_job.Abort();
   };
   EXPECT_EQ(ScanPeakLevels(c.s), 1);
   EXPECT_EQ(c.s.m_levelLeft, -1.0f);
@@ -537,7 +521,7 @@ TEST(PeakScanner, LargeViewsReadByTwoThreads) {
   Scanner p;
   p.PrepareWav(2, 16, 1, data);
   p.t.pump.onPump = [&](int call) {
-    if (call == 2 || call == 9) p.s.m_pauseToggle = 1;
+    if (call == 2 || call == 9) p.s.m_job.TogglePause();
   };
   EXPECT_EQ(p.BytesOf(), unsigned(data.size()));
   EXPECT_EQ(p.s.m_levelRight, 95.0f);
