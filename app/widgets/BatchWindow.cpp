@@ -31,6 +31,7 @@
 #include "app/widgets/AddFoldersDlg.h"
 #include "app/widgets/BatchListView.h"
 #include "app/widgets/BatchProgressDlg.h"
+#include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/ShellMenus.h"
 #include "batch/BatchAdd.h"
 #include "batch/BatchList.h"
@@ -255,8 +256,6 @@ void CBatch::BuildMenus(QVBoxLayout* layout) {
   AddCommand(help, kBatchHelp, Tonvane::tr("Help Tonvane"), QKeySequence("F1"));
 
   action(kBatchUseDatabase)->setChecked(m_s.m_useDatabase != 0);
-  // The Database dialog is the main window's; until it is there the entry stays out of sight.
-  action(kBatchDatabase)->setVisible(false);
   action(kBatchAllCores)->setChecked(Settings::GetInt("BatchAllCores", 1) != 0);
 
   connect(action(kBatchAddFiles), &QAction::triggered, this, &CBatch::OnAddFiles);
@@ -277,6 +276,7 @@ void CBatch::BuildMenus(QVBoxLayout* layout) {
   });
   connect(action(kBatchUseDatabase), &QAction::toggled, this, [this](bool on) { m_s.m_useDatabase = on ? 1 : 0; });
   connect(action(kBatchClearDatabase), &QAction::triggered, this, [this] { ClearLog(m_s); });
+  connect(action(kBatchDatabase), &QAction::triggered, this, &CBatch::OnDatabase);
   connect(action(kBatchAllCores), &QAction::toggled, this, [](bool on) { Settings::SetInt("BatchAllCores", on ? 1 : 0); });
   auto* shell = new ShellMenus(this);
   connect(action(kBatchHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
@@ -697,6 +697,17 @@ void CBatch::OnTest() {
   UpdateStatus();
   ApplyEnabling();
   FinishPendingClose();
+}
+
+void CBatch::OnDatabase() {
+  if (m_addBusy || m_progress) return;
+  // The preview's transport rests while the dialog is open, as for the add commands.
+  m_previewEnabled = false;
+  ApplyEnabling();
+  CDataBase dialog(m_s, this);
+  dialog.exec();
+  m_previewEnabled = true;
+  ApplyEnabling();
 }
 
 void CBatch::FinishPendingClose() {

@@ -65,6 +65,7 @@ class CBatch : public QDialog {
   void OnRemoveAll();
   void OnMove(bool down);
   void SetTestMode(int mode);
+  void OnDatabase();
   // Close, Esc and the close box.
   void OnBatchClose();
 

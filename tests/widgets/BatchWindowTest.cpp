@@ -145,6 +145,18 @@ TEST_F(BatchWindowTest, WindowShellAndColumnMemory) {
     EXPECT_TRUE(b->HintShown());
     EXPECT_EQ(b->action(kBatchAddFiles)->shortcut(), QKeySequence("Ctrl+F"));
     EXPECT_FALSE(b->action(kBatchTest)->isEnabled());  // nothing listed
+    // Options > Database... opens the log's dialog over the window.
+    QAction* db = b->action(kBatchDatabase);
+    ASSERT_TRUE(db->isVisible() && db->isEnabled());
+    QString shown;
+    QTimer::singleShot(0, [&] {
+      if (QWidget* m = QApplication::activeModalWidget()) {
+        shown = m->objectName();
+        m->close();
+      }
+    });
+    db->trigger();
+    EXPECT_EQ(shown, "CDataBase");
     QHeaderView* h = b->view()->horizontalHeader();
     b->view()->SetColumnVisible(4, false);
     h->moveSection(h->visualIndex(2), 6);
