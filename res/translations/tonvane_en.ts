@@ -265,6 +265,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>File Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Batch Processing...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1407,10 +1411,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>№</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File Name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

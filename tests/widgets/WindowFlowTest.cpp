@@ -240,6 +240,10 @@ TEST_F(WindowFlowTest, FileListOpensItsEntries) {
   EXPECT_EQ(dlg.nextIndex(), b + 1);
   EXPECT_EQ(dlg.previousIndex(), b - 1);
   for (int i = 0; i < 600 && g_workerBusy.load(); ++i) QTest::qWait(10);
+  // The open file opened again, as the player's next step does in a folder of one, is open.
+  EXPECT_EQ(dlg.OpenByName(t.Path("b.wav")), 1);
+  EXPECT_EQ(list->count(), 3);
+  for (int i = 0; i < 600 && g_workerBusy.load(); ++i) QTest::qWait(10);
 
   ASSERT_TRUE(QFile::remove(t.Path("a.wav")));
   list->setCurrentIndex(list->findText("a.wav"));
