@@ -27,6 +27,7 @@ constexpr size_t kScaleFrames = 4096;
 
 struct LevelAnalyser::State {
   bool threaded, wantPeak;
+  bool callerOnly = false;
   PcmFormat format;
   size_t frameBytes = 0;
   bool begun = false, ended = false;
@@ -129,6 +130,11 @@ LevelAnalyser::LevelAnalyser(bool threaded, bool peak) : m(std::make_unique<Stat
 
 LevelAnalyser::~LevelAnalyser() { m->Stop(); }
 
+void LevelAnalyser::StayOnCallerThread() {
+  m->threaded = false;
+  m->callerOnly = true;
+}
+
 bool LevelAnalyser::Begin(const PcmFormat& f) {
   if (m->begun || f.channels <= 0 || f.bits <= 0 || f.bits % 8 != 0) return false;
   m->begun = true;
@@ -142,7 +148,7 @@ bool LevelAnalyser::Begin(const PcmFormat& f) {
   // The gain engine reads up to 64 channels and analyses the first two.
   m->used = std::min(f.channels, 2);
   m->gainOk = f.channels <= 64 && SampleKindOf(f.bits, f.formatTag, m->kind) && f.sampleRate > 0 &&
-              m->gain.Init(f.sampleRate, m->used);
+              m->gain.Init(f.sampleRate, m->used, !m->callerOnly);
   m->scaled.resize(kScaleFrames * size_t(m->used));
   m->fill.reserve(kBlockBytes + m->frameBytes);
   if (m->threaded) m->worker = std::thread([s = m.get()] { s->Run(); });

@@ -17,6 +17,10 @@ class LevelAnalyser : public PcmSink {
   // are wanted (MPEG audio has none).
   explicit LevelAnalyser(bool threaded = true, bool peak = true);
   ~LevelAnalyser() override;
+  // No thread beside the caller's at all: the analysis runs inside Write and the loudness
+  // filters take none of their own (a caller that already keeps every core busy). Before
+  // Begin; the figures are the same.
+  void StayOnCallerThread();
   LevelAnalyser(const LevelAnalyser&) = delete;
   LevelAnalyser& operator=(const LevelAnalyser&) = delete;
 

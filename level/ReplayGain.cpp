@@ -340,7 +340,7 @@ uint32_t LoudnessBlockLength(int sampleRate) { return uint32_t(std::ceil(sampleR
 ReplayGainAnalyser::ReplayGainAnalyser() = default;
 ReplayGainAnalyser::~ReplayGainAnalyser() = default;
 
-bool ReplayGainAnalyser::Init(int sampleRate, int channels) {
+bool ReplayGainAnalyser::Init(int sampleRate, int channels, bool ownThread) {
   m_resampler.reset();
   m_state.reset();
   m_channels = 0;
@@ -369,7 +369,7 @@ bool ReplayGainAnalyser::Init(int sampleRate, int channels) {
   m_channels = channels;
   m_state = std::make_unique<Memory>();
   for (int c = 0; c < channels; ++c) m_state->ch[c].histogram.assign(kHistogramBins, 0);
-  m_state->noThread = channels < 2 || std::thread::hardware_concurrency() < 2;
+  m_state->noThread = !ownThread || channels < 2 || std::thread::hardware_concurrency() < 2;
   return true;
 }
 

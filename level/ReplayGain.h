@@ -38,8 +38,9 @@ class ReplayGainAnalyser {
   ReplayGainAnalyser& operator=(const ReplayGainAnalyser&) = delete;
 
   // channels 1 or 2. False for a rate below 1 kHz or above 1.536 MHz, or when the
-  // resampler cannot start.
-  bool Init(int sampleRate, int channels);
+  // resampler cannot start. `ownThread`: the second channel's filters may run on a thread
+  // of their own.
+  bool Init(int sampleRate, int channels, bool ownThread = true);
   // `frames` frames of interleaved samples on the 16-bit scale.
   void Process(const double* samples, size_t frames);
   // Ends the analysis (drains the resampler, takes a lone partial block). Idempotent.
