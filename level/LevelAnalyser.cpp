@@ -24,6 +24,7 @@ constexpr size_t kQueuedBlocks = 4;
 
 struct LevelAnalyser::State {
   bool threaded, wantPeak, wantGain;
+  bool callerOnly = false;
   PcmFormat format;
   size_t frameBytes = 0;
   bool begun = false, ended = false;
@@ -119,6 +120,11 @@ LevelAnalyser::LevelAnalyser(bool threaded, bool peak, bool gain) : m(std::make_
 
 LevelAnalyser::~LevelAnalyser() { m->Stop(); }
 
+void LevelAnalyser::StayOnCallerThread() {
+  m->threaded = false;
+  m->callerOnly = true;
+}
+
 bool LevelAnalyser::Begin(const PcmFormat& f) {
   if (m->begun || f.channels <= 0 || f.bits <= 0 || f.bits % 8 != 0) return false;
   m->begun = true;
@@ -132,9 +138,9 @@ bool LevelAnalyser::Begin(const PcmFormat& f) {
   // The gain engine reads up to 64 channels and analyses the first two.
   m->used = std::min(f.channels, 2);
   // Beside a decoder the analysis has a thread of its own already; inside Write the
-  // filters may take a second one.
+  // filters may take a second one, unless everything is to stay on the caller's thread.
   m->gainOk = m->wantGain && f.channels <= 64 && SampleKindOf(f.bits, f.formatTag, m->kind) &&
-              f.sampleRate > 0 && m->gain.Init(f.sampleRate, m->used, !m->threaded);
+              f.sampleRate > 0 && m->gain.Init(f.sampleRate, m->used, !m->threaded && !m->callerOnly);
   m->fill.reserve(kBlockBytes + m->frameBytes);
   if (m->threaded) m->worker = std::thread([s = m.get()] { s->Run(); });
   return true;

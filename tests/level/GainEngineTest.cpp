@@ -81,21 +81,19 @@ TEST(ReplayGainAnalysis, MatchesReferenceAtEveryTabledRateChannelByChannel) {
   EXPECT_EQ(checked, 17);  // 13 tabled rates, two resampled ones, pink noise, full-scale sine
 }
 
-TEST(ReplayGainAnalysis, CalibrationAndMargins) {
+// The gains match the reference above; here the margins below full scale.
+TEST(ReplayGainAnalysis, Margins) {
   TestSession t;
-  const auto refs = References();
-  // A full-scale sine is loud: about 14 dB over the reference, its peak at full scale.
   const Figures sine = Rms(*t.s, Fixture("gain_sine_full.wav"), 2, 16);
   ASSERT_EQ(sine.rc, kGainOk);
-  EXPECT_NEAR(sine.gainLeft, refs["gain_sine_full.wav"].first, kReferenceTolerance);
-  EXPECT_LT(sine.gainLeft, -14.0);
   EXPECT_NEAR(sine.noClipLeft, 0.0, 0.01);
-  // Pink noise at half scale: below the reference, with room below full scale.
   const Figures pink = Rms(*t.s, Fixture("gain_pink.wav"), 2, 16);
-  ASSERT_EQ(pink.rc, kGainOk);
-  EXPECT_NEAR(pink.gainLeft, refs["gain_pink.wav"].first, kReferenceTolerance);
-  EXPECT_GT(pink.gainLeft, 0.0);
   EXPECT_LT(pink.noClipLeft, -1.0);
+  // A clipped MP3 decodes past full scale.
+  const Figures clipped = RadioGain(*t.s, Fixture("gain_clipped.mp3"));
+  ASSERT_EQ(clipped.rc, kGainOk);
+  EXPECT_GT(clipped.noClipLeft, 0.0f);
+  EXPECT_GT(clipped.noClipRight, 0.0f);
   // Two channels that differ give different figures.
   const Figures two = Rms(*t.s, Fixture("gain_44100.wav"), 2, 16);
   EXPECT_GT(std::fabs(two.gainLeft - two.gainRight), 5.0);
@@ -173,24 +171,6 @@ TEST(ReplayGainAnalysis, ShortSoundSilenceAndUntabledRate) {
   EXPECT_GT(std::fabs(at48.gainLeft - at48.gainRight), 1.0);  // 1 kHz and 3 kHz weigh differently
 }
 
-TEST(ReplayGainAnalysis, BlockLengthsAndTables) {
-  EXPECT_EQ(LoudnessBlockLength(44100), 2205u);
-  EXPECT_EQ(LoudnessBlockLength(22050), 1103u);
-  EXPECT_EQ(LoudnessBlockLength(48000), 2400u);
-  EXPECT_EQ(LoudnessBlockLength(11025), 552u);
-  EXPECT_NE(FindLoudnessFilter(37800), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(96000), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(88200), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(50000), nullptr);
-  ReplayGainAnalyser an;
-  ASSERT_TRUE(an.Init(44100, 1));
-  std::vector<double> tone(44100 + 100);
-  for (size_t i = 0; i < tone.size(); ++i) tone[i] = 10000 * std::sin(i * 0.1);
-  an.Process(tone.data(), tone.size());
-  an.Finish();
-  EXPECT_EQ(an.Blocks(0), 20u);  // whole blocks only
-}
-
 // Both channels filtered side by side give each channel's own figures to the last bit,
 // however the samples arrive and on whichever thread the filters run.
 TEST(ReplayGainAnalysis, StereoLanesMatchEachChannelAlone) {
@@ -240,14 +220,6 @@ TEST(GainEngineMp3, MatchesReferenceOfTheDecodedAudio) {
   ASSERT_EQ(mono.rc, kGainOk);
   EXPECT_EQ(mono.gainRight, mono.gainLeft);
   EXPECT_NEAR(mono.gainLeft, refs["gain_mono.mp3"].first, 0.05);
-}
-
-TEST(GainEngineMp3, ClippedSourceHasPositiveMargin) {
-  TestSession t;
-  const Figures f = RadioGain(*t.s, Fixture("gain_clipped.mp3"));
-  ASSERT_EQ(f.rc, kGainOk);
-  EXPECT_GT(f.noClipLeft, 0.0f);
-  EXPECT_GT(f.noClipRight, 0.0f);
 }
 
 TEST(GainEngineFailures, UnreadableOrUndecodableGivesTwoAndShowsNothing) {
