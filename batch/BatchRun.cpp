@@ -177,7 +177,9 @@ BatchRunSummary BatchRunner::Run() {
         const size_t k = next++;
         if (k >= misses.size()) break;
         const Job& j = jobs[misses[k]];
-        BatchMeasureRequest request{j.path, j.kind, j.testMode, showDb};
+        // The last files of the run leave cores free: they may take helper threads.
+        const bool helpers = m_options.jobs > 1 && misses.size() - k < size_t(m_options.jobs);
+        BatchMeasureRequest request{j.path, j.kind, j.testMode, showDb, helpers};
         BatchMeasureResult r = m_measure(request, m_control);
         {
           std::lock_guard<std::mutex> lock(mutex);

@@ -99,7 +99,7 @@ class BatchEstimate {
 struct BatchRunOptions {
   int testMode = 0;     // 0 peak, 1 average
   bool useLog = true;   // with the session's m_useDatabase and an open log
-  int jobs = 1;         // workers
+  int jobs = 1;         // threads the run may keep busy: workers, and a file's helpers
 };
 
 class BatchRunner {

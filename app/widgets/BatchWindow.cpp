@@ -30,7 +30,9 @@
 #include "app/Text.h"
 #include "app/widgets/AddFoldersDlg.h"
 #include "app/widgets/BatchListView.h"
+#include "app/widgets/BatchPlayerPage.h"
 #include "app/widgets/BatchProgressDlg.h"
+#include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/ShellMenus.h"
 #include "batch/BatchAdd.h"
 #include "batch/BatchList.h"
@@ -255,8 +257,6 @@ void CBatch::BuildMenus(QVBoxLayout* layout) {
   AddCommand(help, kBatchHelp, Tonvane::tr("Help Tonvane"), QKeySequence("F1"));
 
   action(kBatchUseDatabase)->setChecked(m_s.m_useDatabase != 0);
-  // The Database dialog is the main window's; until it is there the entry stays out of sight.
-  action(kBatchDatabase)->setVisible(false);
   action(kBatchAllCores)->setChecked(Settings::GetInt("BatchAllCores", 1) != 0);
 
   connect(action(kBatchAddFiles), &QAction::triggered, this, &CBatch::OnAddFiles);
@@ -277,6 +277,7 @@ void CBatch::BuildMenus(QVBoxLayout* layout) {
   });
   connect(action(kBatchUseDatabase), &QAction::toggled, this, [this](bool on) { m_s.m_useDatabase = on ? 1 : 0; });
   connect(action(kBatchClearDatabase), &QAction::triggered, this, [this] { ClearLog(m_s); });
+  connect(action(kBatchDatabase), &QAction::triggered, this, &CBatch::OnDatabase);
   connect(action(kBatchAllCores), &QAction::toggled, this, [](bool on) { Settings::SetInt("BatchAllCores", on ? 1 : 0); });
   auto* shell = new ShellMenus(this);
   connect(action(kBatchHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
@@ -366,9 +367,16 @@ void CBatch::BuildPages() {
   connect(m_averageRadio, &QRadioButton::clicked, this, [this] { SetTestMode(1); });
   connect(m_testButton, &QPushButton::clicked, this, &CBatch::OnTest);
 
-  auto* playerPage = new QWidget(m_tabs);
-  playerPage->setObjectName("batchPlayerPage");
-  m_tabs->addTab(playerPage, Tonvane::tr("Player"));
+  m_player = new CBatchPlayerPage(m_s, *m_list, *m_view, m_tabs);
+  m_tabs->addTab(m_player, Tonvane::tr("Player"));
+  PreviewPlayer& preview = m_player->preview();
+  connect(action(kBatchPlayPause), &QAction::triggered, this, [&preview] { preview.PlayPause(); });
+  connect(action(kBatchStop), &QAction::triggered, this, [&preview] { preview.Stop(); });
+  connect(action(kBatchVolumeUp), &QAction::triggered, this, [&preview] { preview.VolumeUp(); });
+  connect(action(kBatchVolumeDown), &QAction::triggered, this, [&preview] { preview.VolumeDown(); });
+  connect(action(kBatchNext), &QAction::triggered, this, [&preview] { preview.Next(); });
+  connect(action(kBatchPrevious), &QAction::triggered, this, [&preview] { preview.Previous(); });
+  connect(m_view, &CBatchListView::rowActivated, this, [&preview] { preview.PlayPause(); });
 }
 
 void CBatch::SetTestMode(int mode) {
@@ -496,6 +504,7 @@ void CBatch::ApplyEnabling() {
   in.logAvailable = m_s.m_logAvailable != 0;
   in.addBusy = m_addBusy;
   in.previewEnabled = m_previewEnabled;
+  in.previewActive = m_player->preview().Active();
   const BatchEnablingState st = BatchEnabling(in);
   for (int id : std::initializer_list<int>{kBatchMoveDown, kBatchMoveUp, kBatchCheckAll, kBatchUncheckAll, kBatchTest})
     action(id)->setEnabled(st.listCommands);
@@ -503,6 +512,7 @@ void CBatch::ApplyEnabling() {
   m_testButton->setEnabled(st.listCommands && !m_addBusy);
   action(kBatchPlayPause)->setEnabled(st.playPause);
   action(kBatchStop)->setEnabled(st.stop);
+  m_player->SetTransportEnabled(st.playPause, st.stepping);
   action(kBatchPrevious)->setEnabled(st.stepping);
   action(kBatchNext)->setEnabled(st.stepping);
   action(kBatchUseDatabase)->setEnabled(st.useDatabase);
@@ -653,6 +663,8 @@ void CBatch::OnRemove() {
   }
   std::sort(rows.begin(), rows.end());
   const int keep = rows.first();
+  PreviewPlayer& preview = m_player->preview();
+  preview.StopPreview();
   // From the bottom up, one run of neighbours at a time.
   for (int i = int(rows.size()) - 1; i >= 0;) {
     int j = i;
@@ -660,6 +672,7 @@ void CBatch::OnRemove() {
     m_list->removeRows(rows[j], rows[i] - rows[j] + 1);
     i = j - 1;
   }
+  if (!m_list->Contains(preview.m_previewPath) || m_list->FileCount() == 0) preview.ClearPreview();
   if (m_list->FileCount() > 0) m_view->selectRow(std::min(keep, m_list->FileCount() - 1));
   UpdateStatus();
   ApplyEnabling();
@@ -667,6 +680,7 @@ void CBatch::OnRemove() {
 
 void CBatch::OnRemoveAll() {
   if (m_addBusy || m_progress) return;
+  m_player->preview().ClearPreview();
   m_list->RemoveAll();
   UpdateStatus();
   ApplyEnabling();
@@ -681,6 +695,7 @@ void CBatch::OnMove(bool down) {
 
 void CBatch::OnTest() {
   if (m_addBusy || m_progress || m_list->FileCount() == 0) return;
+  m_player->preview().StopPreview();
   m_previewEnabled = false;
   ApplyEnabling();
   BatchRunOptions options;
@@ -697,6 +712,17 @@ void CBatch::OnTest() {
   UpdateStatus();
   ApplyEnabling();
   FinishPendingClose();
+}
+
+void CBatch::OnDatabase() {
+  if (m_addBusy || m_progress) return;
+  // The preview's transport rests while the dialog is open, as for the add commands.
+  m_previewEnabled = false;
+  ApplyEnabling();
+  CDataBase dialog(m_s, this);
+  dialog.exec();
+  m_previewEnabled = true;
+  ApplyEnabling();
 }
 
 void CBatch::FinishPendingClose() {
@@ -716,6 +742,7 @@ void CBatch::OnBatchClose() {
     return;
   }
   m_closed = true;
+  m_player->preview().StopPreview();
   SaveColumnLayout(m_batchKind, m_view->ColumnLayout());
   m_s.m_testMode = m_savedTestMode;
   m_list->RemoveAll();

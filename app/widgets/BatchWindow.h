@@ -15,6 +15,7 @@ class BatchAdder;
 class BatchList;
 class CAddFoldersDlg;
 class CBatchListView;
+class CBatchPlayerPage;
 class CBatchProgress;
 class CWaitDlg;
 class QAction;
@@ -43,6 +44,7 @@ class CBatch : public QDialog {
   QString LeftStatus() const;
   QString RightStatus() const;
   QTabWidget* tabs() const { return m_tabs; }
+  CBatchPlayerPage* playerPage() const { return m_player; }
   bool AddBusy() const { return m_addBusy; }
 
   // The choosers of the add commands; a test gives its own (empty: Cancel).
@@ -65,6 +67,7 @@ class CBatch : public QDialog {
   void OnRemoveAll();
   void OnMove(bool down);
   void SetTestMode(int mode);
+  void OnDatabase();
   // Close, Esc and the close box.
   void OnBatchClose();
 
@@ -124,6 +127,7 @@ class CBatch : public QDialog {
   QRadioButton* m_peakRadio = nullptr;
   QRadioButton* m_averageRadio = nullptr;
   QPushButton* m_testButton = nullptr;
+  CBatchPlayerPage* m_player = nullptr;
   QToolBar* m_toolBar = nullptr;
   QMenu* m_rowMenu = nullptr;
   std::map<int, QAction*> m_actions;

@@ -181,6 +181,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source> does not contain a sound data. Therefore the test is impossible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -258,6 +262,10 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Size Column To Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1082,10 +1090,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> does not contain a sound data. Therefore the test is impossible.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>  Audio Format      Ogg Vorbis</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1407,10 +1411,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>№</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File Name</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

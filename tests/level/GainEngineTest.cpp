@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QMap>
 #include <QTextStream>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -80,21 +81,19 @@ TEST(ReplayGainAnalysis, MatchesReferenceAtEveryTabledRateChannelByChannel) {
   EXPECT_EQ(checked, 17);  // 13 tabled rates, two resampled ones, pink noise, full-scale sine
 }
 
-TEST(ReplayGainAnalysis, CalibrationAndMargins) {
+// The gains match the reference above; here the margins below full scale.
+TEST(ReplayGainAnalysis, Margins) {
   TestSession t;
-  const auto refs = References();
-  // A full-scale sine is loud: about 14 dB over the reference, its peak at full scale.
   const Figures sine = Rms(*t.s, Fixture("gain_sine_full.wav"), 2, 16);
   ASSERT_EQ(sine.rc, kGainOk);
-  EXPECT_NEAR(sine.gainLeft, refs["gain_sine_full.wav"].first, kReferenceTolerance);
-  EXPECT_LT(sine.gainLeft, -14.0);
   EXPECT_NEAR(sine.noClipLeft, 0.0, 0.01);
-  // Pink noise at half scale: below the reference, with room below full scale.
   const Figures pink = Rms(*t.s, Fixture("gain_pink.wav"), 2, 16);
-  ASSERT_EQ(pink.rc, kGainOk);
-  EXPECT_NEAR(pink.gainLeft, refs["gain_pink.wav"].first, kReferenceTolerance);
-  EXPECT_GT(pink.gainLeft, 0.0);
   EXPECT_LT(pink.noClipLeft, -1.0);
+  // A clipped MP3 decodes past full scale.
+  const Figures clipped = RadioGain(*t.s, Fixture("gain_clipped.mp3"));
+  ASSERT_EQ(clipped.rc, kGainOk);
+  EXPECT_GT(clipped.noClipLeft, 0.0f);
+  EXPECT_GT(clipped.noClipRight, 0.0f);
   // Two channels that differ give different figures.
   const Figures two = Rms(*t.s, Fixture("gain_44100.wav"), 2, 16);
   EXPECT_GT(std::fabs(two.gainLeft - two.gainRight), 5.0);
@@ -172,22 +171,38 @@ TEST(ReplayGainAnalysis, ShortSoundSilenceAndUntabledRate) {
   EXPECT_GT(std::fabs(at48.gainLeft - at48.gainRight), 1.0);  // 1 kHz and 3 kHz weigh differently
 }
 
-TEST(ReplayGainAnalysis, BlockLengthsAndTables) {
-  EXPECT_EQ(LoudnessBlockLength(44100), 2205u);
-  EXPECT_EQ(LoudnessBlockLength(22050), 1103u);
-  EXPECT_EQ(LoudnessBlockLength(48000), 2400u);
-  EXPECT_EQ(LoudnessBlockLength(11025), 552u);
-  EXPECT_NE(FindLoudnessFilter(37800), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(96000), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(88200), nullptr);
-  EXPECT_EQ(FindLoudnessFilter(50000), nullptr);
-  ReplayGainAnalyser an;
-  ASSERT_TRUE(an.Init(44100, 1));
-  std::vector<double> tone(44100 + 100);
-  for (size_t i = 0; i < tone.size(); ++i) tone[i] = 10000 * std::sin(i * 0.1);
-  an.Process(tone.data(), tone.size());
-  an.Finish();
-  EXPECT_EQ(an.Blocks(0), 20u);  // whole blocks only
+// Both channels filtered side by side give each channel's own figures to the last bit,
+// however the samples arrive and on whichever thread the filters run.
+TEST(ReplayGainAnalysis, StereoLanesMatchEachChannelAlone) {
+  const size_t frames = 3 * 65536 + 777;
+  std::vector<double> stereo(2 * frames), left(frames), right(frames);
+  uint32_t r = 7;
+  for (size_t i = 0; i < frames; ++i) {
+    r = r * 1664525u + 1013904223u;
+    left[i] = 12000 * std::sin(i * 0.03) + double(int(r >> 20) - 2048);
+    right[i] = 3000 * std::sin(i * 0.4) * std::sin(i * 0.0007);
+    stereo[2 * i] = left[i], stereo[2 * i + 1] = right[i];
+  }
+  auto alone = [&](const std::vector<double>& x) {
+    ReplayGainAnalyser an;
+    EXPECT_TRUE(an.Init(44100, 1, false));
+    an.Process(x.data(), x.size());
+    an.Finish();
+    return an.Gain(0);
+  };
+  const double gl = alone(left), gr = alone(right);
+  EXPECT_GT(std::fabs(gl - gr), 1.0);
+  for (const bool thread : {false, true})
+    for (const size_t piece : {size_t(1) << 20, size_t(4093), size_t(1)}) {
+      SCOPED_TRACE(::testing::Message() << "thread " << thread << ", piece " << piece);
+      ReplayGainAnalyser an;
+      ASSERT_TRUE(an.Init(44100, 2, thread));
+      for (size_t at = 0; at < frames; at += piece) an.Process(stereo.data() + 2 * at, std::min(piece, frames - at));
+      an.Finish();
+      EXPECT_EQ(an.Gain(0), gl);
+      EXPECT_EQ(an.Gain(1), gr);
+      EXPECT_EQ(an.Blocks(1), frames / 2205);
+    }
 }
 
 TEST(GainEngineMp3, MatchesReferenceOfTheDecodedAudio) {
@@ -205,14 +220,6 @@ TEST(GainEngineMp3, MatchesReferenceOfTheDecodedAudio) {
   ASSERT_EQ(mono.rc, kGainOk);
   EXPECT_EQ(mono.gainRight, mono.gainLeft);
   EXPECT_NEAR(mono.gainLeft, refs["gain_mono.mp3"].first, 0.05);
-}
-
-TEST(GainEngineMp3, ClippedSourceHasPositiveMargin) {
-  TestSession t;
-  const Figures f = RadioGain(*t.s, Fixture("gain_clipped.mp3"));
-  ASSERT_EQ(f.rc, kGainOk);
-  EXPECT_GT(f.noClipLeft, 0.0f);
-  EXPECT_GT(f.noClipRight, 0.0f);
 }
 
 TEST(GainEngineFailures, UnreadableOrUndecodableGivesTwoAndShowsNothing) {

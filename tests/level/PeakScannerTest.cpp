@@ -122,123 +122,79 @@ class RecordingBatch : public IBatchProgress {
 
 }  // namespace
 
-TEST(PeakScanner, Sixteen) {
-  Scanner k;
-  std::vector<int16_t> v = Quiet16(2000);
-  v[1000] = -32768;  // left's only peak
-  v[1501] = 12000;   // right
-  k.PrepareWav(2, 16, 1, Samples(v));
-  std::vector<float> r = k.Both();
-  EXPECT_EQ(r[0], 100.0f);
-  EXPECT_EQ(r[1], 37.0f);  // 36.62
-  EXPECT_NEAR(r[2], 90.309, 0.0005);
-  EXPECT_NEAR(r[3], 20 * std::log10(12000.0), 1e-4);
-  EXPECT_EQ(r[4], 0.0f);
-  EXPECT_NEAR(r[5], 20 * std::log10(12000.0 / 32768), 1e-4);
+namespace {
 
-  // Mono: the right results are left as they were.
-  Scanner m;
-  std::vector<int16_t> mono = Quiet16(999);
-  mono[998] = 16384;
-  m.PrepareWav(1, 16, 1, Samples(mono));
-  m.s.m_levelRight = 55;
-  m.s.m_noClipDbRight = -7;
-  EXPECT_EQ(m.BytesOf(), 1998u);
-  EXPECT_EQ(m.s.m_levelLeft, 50.0f);
-  EXPECT_EQ(m.s.m_levelRight, 55.0f);
-  m.s.m_showDb = 1;
-  ASSERT_EQ(ScanPeakLevels(m.s), 0);
-  EXPECT_EQ(m.s.m_noClipDbRight, -7.0f);
+template <typename T>
+QByteArray Planted(std::vector<T> v, std::initializer_list<std::pair<size_t, T>> at) {
+  for (auto [i, x] : at) v[i] = x;
+  return Samples(v);
 }
 
-TEST(PeakScanner, SilenceReadsZeroInBothScales) {
-  Scanner k;
-  k.PrepareWav(2, 24, 1, QByteArray(6 * 500, '\0'));
-  std::vector<float> r = k.Both();
-  for (float x : r) EXPECT_EQ(x, 0.0f);
-  Scanner e;  // 8-bit silence is 128
-  e.PrepareWav(1, 8, 1, QByteArray(300, char(128)));
-  r = e.Both();
-  EXPECT_EQ(r[0], 0.0f);
-  EXPECT_EQ(r[2], 0.0f);
-  EXPECT_EQ(r[4], 0.0f);
+QByteArray Planted8(int size, std::initializer_list<std::pair<int, uint8_t>> at) {
+  QByteArray d(size, char(128));
+  for (auto [i, x] : at) d[i] = char(x);
+  return d;
 }
 
-TEST(PeakScanner, EightBitEnds) {
-  for (uint8_t extreme : {uint8_t(0), uint8_t(255)}) {
+constexpr float N = std::numeric_limits<float>::quiet_NaN();  // not looked at
+constexpr float kInf = std::numeric_limits<float>::infinity();
+
+// A layout with a few planted samples, and what the two scans give: percent L/R, dB L/R,
+// below full scale L/R, and the sample bytes one scan reads. -1 and -99 are the values the
+// session held before: a channel the file lacks is left alone.
+struct LayoutCase {
+  const char* what;
+  int channels, bits;
+  uint16_t tag;
+  QByteArray data;
+  float want[6];
+  unsigned bytes;
+};
+
+std::vector<LayoutCase> LayoutCases() {
+  const QByteArray floats = Planted<float>(std::vector<float>(1000, 0.01f), {{10, 1.0f}, {11, -1.5f}});
+  return {
+      {"16 stereo", 2, 16, 1, Planted<int16_t>(Quiet16(2000), {{1000, -32768}, {1501, 12000}}),
+       {100, 37, 90.30900f, 81.58362f, 0, -8.72537f}, 4000},
+      {"16 mono", 1, 16, 1, Planted<int16_t>(Quiet16(999), {{998, 16384}}), {50, -1, N, -1, -6.02060f, -99}, 1998},
+      {"24 silence", 2, 24, 1, QByteArray(3000, '\0'), {0, 0, 0, 0, 0, 0}, 3000},
+      {"8 silence", 1, 8, 1, Planted8(300, {}), {0, -1, 0, -1, 0, -99}, 300},
+      {"8 low end", 1, 8, 1, Planted8(401, {{17, 120}, {399, 0}}), {100, -1, N, -1, 0, -99}, 401},
+      {"8 high end", 1, 8, 1, Planted8(401, {{17, 120}, {399, 255}}), {100, -1, N, -1, -0.068125f, -99}, 401},
+      {"8 stereo", 2, 8, 1, Planted8(400, {{10, 64}, {21, 255}}), {50, 100, N, N, N, N}, 400},
+      // The dB divisor is 8388607: the negative full scale is a hair above it.
+      {"24 full scale", 2, 24, 1,
+       Int24([] {
+         std::vector<int32_t> v(600, 100);
+         v[300] = -8388608, v[301] = 4194304, v[599] = -5;
+         return v;
+       }()),
+       {100, 50, N, N, 1.0354e-6f, N}, 1800},
+      {"32 int min", 1, 32, 1, Planted<int32_t>(std::vector<int32_t>(64, -3), {{7, std::numeric_limits<int32_t>::min()}}),
+       {100, -1, N, -1, 0, -99}, 256},
+      {"float beyond full scale", 2, 32, 3, floats, {100, 100, N, N, 0, 0}, 4000},
+      // The NaN touches nothing; minus infinity reads as full scale.
+      {"float NaN and -inf", 2, 32, 3,
+       Planted<float>(std::vector<float>(100, 0.0f), {{3, 0.25f}, {4, N}, {5, -kInf}, {6, -0.5f}}),
+       {50, 100, N, N, N, N}, 400},
+      {"unknown 32-bit tag", 2, 32, 0xFFFE, floats, {0, N, N, N, N, N}, 0},
+      {"three channels", 3, 16, 1, Samples(Quiet16(300)), {-1, -1, -1, -1, -99, -99}, 0},
+  };
+}
+
+}  // namespace
+
+TEST(PeakScanner, LayoutsInBothScales) {
+  for (const LayoutCase& c : LayoutCases()) {
+    SCOPED_TRACE(c.what);
     Scanner k;
-    QByteArray d(401, char(128));
-    d[17] = char(120);
-    d[399] = char(extreme);
-    k.PrepareWav(1, 8, 1, d);
-    std::vector<float> r = k.Both();
-    EXPECT_EQ(r[0], 100.0f) << int(extreme);
-    EXPECT_NEAR(r[4], extreme == 0 ? 0.0 : 20 * std::log10(127.0 / 128), 1e-5);
+    k.PrepareWav(c.channels, c.bits, c.tag, c.data);
+    k.s.m_noClipDbLeft = k.s.m_noClipDbRight = -99;
+    EXPECT_EQ(k.BytesOf(), c.bytes);
+    const std::vector<float> r = k.Both();
+    for (int i = 0; i < 6; ++i)
+      if (!std::isnan(c.want[i])) EXPECT_NEAR(r[i], c.want[i], std::fabs(c.want[i]) < 1e-3f ? 2e-7 : 1e-3) << i;
   }
-  Scanner st;  // stereo: left low, right high
-  QByteArray d(400, char(128));
-  d[10] = char(64);   // left: v 64
-  d[21] = char(255);  // right: v 127
-  st.PrepareWav(2, 8, 1, d);
-  std::vector<float> r = st.Both();
-  EXPECT_EQ(r[0], 50.0f);
-  EXPECT_EQ(r[1], 100.0f);
-}
-
-TEST(PeakScanner, TwentyFourAndThirtyTwoBitFullScale) {
-  Scanner k;
-  std::vector<int32_t> v(600, 100);
-  v[300] = -8388608;
-  v[301] = 4194304;
-  v[599] = -5;
-  k.PrepareWav(2, 24, 1, Int24(v));
-  std::vector<float> r = k.Both();
-  EXPECT_EQ(r[0], 100.0f);
-  EXPECT_EQ(r[1], 50.0f);
-  EXPECT_GT(r[4], 0.0f);  // the dB divisor is 8388607
-  EXPECT_LT(r[4], 0.001f);
-
-  Scanner w;
-  std::vector<int32_t> x(64, -3);
-  x[7] = std::numeric_limits<int32_t>::min();  // limited to -2147483647
-  w.PrepareWav(1, 32, 1, Samples(x));
-  r = w.Both();
-  EXPECT_EQ(r[0], 100.0f);
-  EXPECT_EQ(r[4], 0.0f);
-}
-
-TEST(PeakScanner, FloatAtAndBeyondFullScale) {
-  Scanner k;
-  std::vector<float> v(1000, 0.01f);
-  v[10] = 1.0f;   // left at full scale
-  v[11] = -1.5f;  // right beyond it
-  k.PrepareWav(2, 32, 3, Samples(v));
-  std::vector<float> r = k.Both();
-  EXPECT_EQ(r[0], 100.0f);
-  EXPECT_EQ(r[1], 100.0f);
-  EXPECT_EQ(r[4], 0.0f);
-  EXPECT_EQ(r[5], 0.0f);
-
-  Scanner h;
-  std::vector<float> m(100, 0.0f);
-  m[3] = 0.25f;
-  m[4] = std::numeric_limits<float>::quiet_NaN();
-  m[5] = -std::numeric_limits<float>::infinity();
-  m[6] = -0.5f;
-  h.PrepareWav(2, 32, 3, Samples(m));
-  r = h.Both();
-  EXPECT_EQ(r[0], 50.0f);   // the NaN touches nothing
-  EXPECT_EQ(r[1], 100.0f);  // minus infinity reads as full scale
-
-  // A 32-bit tag the scanner does not know reads as silence; three channels read nothing.
-  Scanner odd;
-  odd.PrepareWav(2, 32, 0xFFFE, Samples(v));
-  EXPECT_EQ(odd.BytesOf(), 0u);
-  EXPECT_EQ(odd.s.m_levelLeft, 0.0f);
-  Scanner three;
-  three.PrepareWav(3, 16, 1, Samples(Quiet16(300)));
-  EXPECT_EQ(three.BytesOf(), 0u);
-  EXPECT_EQ(three.s.m_levelLeft, -1.0f);
 }
 
 TEST(PeakScanner, DataChunkFoundOrQuestioned) {
@@ -360,97 +316,42 @@ TEST(PeakWindowPlan, ContiguousWholeFramesInAlignedViews) {
   }
 }
 
-TEST(PeakWindowPlan, OffsetFortySixCarriesTwoThenFortyEight) {
-  SampleBlock b;
-  ASSERT_TRUE(ChooseSampleBlock(2, 16, 1, b));
-  const uint32_t g = 256;
-  const uint64_t w = g * 1600ull;
-  PeakWindowPlan plan(4 * w, 46, 0, b, g);
-  PeakPass p;
-  ASSERT_TRUE(plan.Next(p));
-  EXPECT_EQ(p.frames * 4, w - 48);
-  EXPECT_EQ(p.mapLength, w);
-  ASSERT_TRUE(plan.Next(p));
-  EXPECT_EQ(p.mapOffset, w - g);
-  EXPECT_EQ(p.mapLength, w + g);
-  EXPECT_EQ(p.scanOffset, w - 2);
-  ASSERT_TRUE(plan.Next(p));
-  EXPECT_EQ(p.scanOffset, 2 * w - 50);
-  ASSERT_TRUE(plan.Next(p));  // the last window is a full one, the rest W + 98
-  EXPECT_EQ(p.mapOffset, 3 * w - g);
-  EXPECT_EQ(p.mapLength, w + g);
-  EXPECT_EQ(p.frames, (w + 98) / 4);
-  EXPECT_FALSE(plan.Next(p));
-}
-
+// Files of one or more windows: full-scale frames at the start, at the end and across each
+// window's end are all found, and every whole frame is read once. Small granularities make
+// the carried bytes outgrow a view; 24-bit frames do not divide a window.
 TEST(PeakScanner, WindowedFilesLoseNoFrame) {
-  const uint32_t g = 256;
-  const int w = int(g) * 1600;
+  const int w256 = 256 * 1600, w16 = 16 * 1600;
   struct Case {
-    int size;
-    bool header46;
-  } cases[] = {{w, false}, {w + 1, false}, {3 * w, false}, {3 * w, true}};
+    int size, header, bits;
+    uint32_t g;
+  } cases[] = {{w256, 44, 16, 256},      {w256 + 1, 44, 16, 256}, {3 * w256, 44, 16, 256},
+               {3 * w256, 46, 16, 256},  {9 * w16 + 3, 46, 16, 16}, {3 * w16 + 60, 46, 24, 16}};
   for (const Case& c : cases) {
-    const int header = c.header46 ? 46 : 44;
-    const int dataBytes = c.size - header;
-    const int frames = dataBytes / 4;
-    // Peaks at the first and last frames and at the frames cut by each window's end.
+    const int frameBytes = c.bits / 4, dataBytes = c.size - c.header, frames = dataBytes / frameBytes;
+    const int32_t full = c.bits == 16 ? 32767 : 8388607;
     std::vector<int> at = {0, frames - 1};
-    for (int edge = w; edge < c.size; edge += w)
-      if ((edge - header) / 4 < frames) at.push_back((edge - header) / 4);
+    for (int edge = int(c.g) * 1600; edge < c.size; edge += int(c.g) * 1600)
+      if ((edge - c.header) / frameBytes < frames) at.push_back((edge - c.header) / frameBytes);
     for (int frame : at) {
+      SCOPED_TRACE(testing::Message() << c.size << " " << c.bits << " frame " << frame);
+      std::vector<int32_t> v(size_t(frames) * 2, 1000);
+      v[size_t(frame) * 2] = -full - 1;
+      v[size_t(frame) * 2 + 1] = full;
+      QByteArray data;
+      if (c.bits == 16)
+        data = Samples(std::vector<int16_t>(v.begin(), v.end()));
+      else
+        data = Int24(v);
+      data.append(QByteArray(dataBytes - data.size(), '\0'));
       Scanner k;
-      std::vector<int16_t> v = Quiet16(size_t(dataBytes / 2));
-      v[size_t(frame) * 2] = -32768;
-      v[size_t(frame) * 2 + 1] = 32767;
-      QByteArray data = Samples(v);
-      if (dataBytes % 2) data.append('\0');
-      QByteArray bytes = WavBytes(2, 16, 1, data, c.header46);
-      ASSERT_EQ(bytes.size(), c.size);
-      k.Prepare(bytes, 2, 16, 1, uint32_t(header), uint32_t(data.size()));
-      k.s.m_allocGranularity = g;
-      EXPECT_EQ(k.BytesOf(), unsigned(frames) * 4) << c.size << " frame " << frame;
-      EXPECT_EQ(k.s.m_windowedMapping, c.size > w ? 1 : 0);
-      EXPECT_EQ(k.s.m_levelLeft, 100.0f) << c.size << " frame " << frame;
-      EXPECT_EQ(k.s.m_levelRight, 100.0f) << c.size << " frame " << frame;
+      k.Prepare(WavBytes(2, c.bits, 1, data, c.header == 46), 2, c.bits, 1, uint32_t(c.header), uint32_t(dataBytes));
+      k.s.m_allocGranularity = c.g;
+      EXPECT_EQ(k.BytesOf(), unsigned(frames * frameBytes));
+      EXPECT_EQ(k.s.m_windowedMapping, c.size > int(c.g) * 1600 ? 1 : 0);
+      EXPECT_EQ(k.s.m_levelLeft, 100.0f);
+      EXPECT_EQ(k.s.m_levelRight, 100.0f);
     }
   }
-}
-
-TEST(PeakScanner, ManyWindowsWithTinyGranularity) {
-  // G of 16 bytes and a header of 46: the carried bytes outgrow G after a few windows.
-  const uint32_t g = 16;
-  const int w = int(g) * 1600;
-  Scanner k;
-  const int size = 9 * w + 3;
-  std::vector<int16_t> v = Quiet16(size_t(size - 46) / 2);
-  v[v.size() - 2] = -32768;  // the last whole frame
-  QByteArray data = Samples(v);
-  data.append('\0');
-  k.Prepare(WavBytes(2, 16, 1, data, true), 2, 16, 1, 46, uint32_t(data.size()));
-  k.s.m_allocGranularity = g;
-  EXPECT_EQ(k.BytesOf(), unsigned(size - 46) / 4 * 4);
-  EXPECT_EQ(k.s.m_levelLeft, 100.0f);
-}
-
-TEST(PeakScanner, WindowedTwentyFourBitFramesStayWhole) {
-  // A 24-bit frame does not divide a window; with a header of 46 the data fills the first
-  // window with whole frames, and the later windows still read whole frames.
-  const uint32_t g = 16;
-  const int w = int(g) * 1600;
-  const int size = 3 * w + 60;
-  const int frames = (size - 46) / 6;
-  std::vector<int32_t> v(size_t(frames) * 2, 1000);
-  v[size_t((w - 46) / 6) * 2 + 1] = 8388607;       // right, in the frame that crosses W
-  v[size_t((2 * w - 46) / 6) * 2] = -8388608;      // left, in the frame that crosses 2W
-  QByteArray data = Int24(v);
-  data.append(QByteArray(size - 46 - data.size(), '\0'));
-  Scanner k;
-  k.Prepare(WavBytes(2, 24, 1, data, true), 2, 24, 1, 46, uint32_t(data.size()));
-  k.s.m_allocGranularity = g;
-  EXPECT_EQ(k.BytesOf(), unsigned(frames) * 6);
-  EXPECT_EQ(k.s.m_levelLeft, 100.0f);
-  EXPECT_EQ(k.s.m_levelRight, 100.0f);
 }
 
 TEST(PeakScanner, CancelAndPause) {
@@ -525,25 +426,6 @@ TEST(PeakScanner, LargeViewsReadByTwoThreads) {
   };
   EXPECT_EQ(p.BytesOf(), unsigned(data.size()));
   EXPECT_EQ(p.s.m_levelRight, 95.0f);
-}
-
-TEST(PeakProgress, PacingRules) {
-  EXPECT_EQ(SingleStepInterval(1000, 30, 1), 1000u / 70);
-  EXPECT_EQ(SingleStepInterval(1000, 0, 3), 1000u / 33);
-  EXPECT_EQ(SingleStepInterval(1000, 98, 3), 0u);  // the inner division gives 0
-  EXPECT_EQ(SingleStepInterval(50, 0, 1), 0u);     // a short pass makes no step
-
-  double r = 0;
-  EXPECT_EQ(BatchStepInterval(900, 0.5, r), 0u);
-  EXPECT_DOUBLE_EQ(r, 0.5);
-  EXPECT_EQ(BatchStepInterval(900, 0.5, r), 900u);
-  EXPECT_DOUBLE_EQ(r, 0.0);
-  r = 0.5;
-  EXPECT_EQ(BatchStepInterval(900, 2.75, r), 300u);  // k 2, then 3 with the carried whole step
-  EXPECT_DOUBLE_EQ(r, 0.25);
-  r = 0.7;
-  EXPECT_EQ(BatchStepInterval(900, 0.6, r), 900u);
-  EXPECT_NEAR(r, 0.3, 1e-12);
 }
 
 TEST(PeakProgress, SingleTestEndsAtHundred) {

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -26,6 +27,7 @@
 #include "app/Settings.h"
 #include "app/widgets/AddFoldersDlg.h"
 #include "app/widgets/BatchListView.h"
+#include "app/widgets/BatchPlayerPage.h"
 #include "app/widgets/BatchProgressDlg.h"
 #include "app/widgets/BatchTypeDlg.h"
 #include "app/widgets/BatchWindow.h"
@@ -33,7 +35,9 @@
 #include "batch/BatchList.h"
 #include "batch/BatchRun.h"
 #include "controls/ProgressBarX.h"
+#include "controls/VolumeSlider.h"
 #include "log/TestLog.h"
+#include "player/SoundTestSupport.h"
 #include "support/TestSupport.h"
 #include "widgets/WidgetTestSupport.h"
 
@@ -145,6 +149,18 @@ TEST_F(BatchWindowTest, WindowShellAndColumnMemory) {
     EXPECT_TRUE(b->HintShown());
     EXPECT_EQ(b->action(kBatchAddFiles)->shortcut(), QKeySequence("Ctrl+F"));
     EXPECT_FALSE(b->action(kBatchTest)->isEnabled());  // nothing listed
+    // Options > Database... opens the log's dialog over the window.
+    QAction* db = b->action(kBatchDatabase);
+    ASSERT_TRUE(db->isVisible() && db->isEnabled());
+    QString shown;
+    QTimer::singleShot(0, [&] {
+      if (QWidget* m = QApplication::activeModalWidget()) {
+        shown = m->objectName();
+        m->close();
+      }
+    });
+    db->trigger();
+    EXPECT_EQ(shown, "CDataBase");
     QHeaderView* h = b->view()->horizontalHeader();
     b->view()->SetColumnVisible(4, false);
     h->moveSection(h->visualIndex(2), 6);
@@ -322,6 +338,50 @@ TEST_F(BatchWindowTest, CloseDuringARunCancelsCleanly) {
   EXPECT_TRUE(WorkFilesUnder(t.Path("c")).isEmpty());
 }
 
+// The preview plays the focused row from a work file of its own through the shared sound
+// system, keeps a playing file while the focus moves, steps with Previous, stops at the end
+// without moving the focus, and leaves no work file behind.
+TEST_F(BatchWindowTest, PreviewPlaysTheFocusedRow) {
+  player_test::ManualSystem sys;
+  Put(testing_support::ApeData("s16_stereo_44k.ape"), "pv/Prøve 1.ape");
+  Put(testing_support::ApeData("s16_stereo_44k.ape"), "pv/שלום, 2.ape");
+  auto b = Open(kKindApe);
+  b->chooseFolder = [&](const QString&) { return t.Path("pv"); };
+  b->OnAddFolder();
+  CBatchPlayerPage* page = b->playerPage();
+  PreviewPlayer& p = page->preview();
+  b->view()->selectRow(0);
+  EXPECT_EQ(page->nameField()->text(), "Prøve 1.ape");
+  b->action(kBatchPlayPause)->trigger();
+  ASSERT_NE(p.m_previewChannel, nullptr);
+  EXPECT_TRUE(QFile::exists(t.Path("pv/Prøve 1.tmp")));
+  EXPECT_EQ(page->playButton()->accessibleName(), "Pause");
+  QTest::qWait(400);  // past the fade-in
+  // The right channel is a sine at 8231 / 32768, played at the first volume of 10 %.
+  EXPECT_NEAR(player_test::Peak(sys.Pull(300), 1), 0.0251f, 0.002f);
+  b->action(kBatchVolumeUp)->trigger();
+  EXPECT_EQ(page->volumeSlider()->value(), 20);
+
+  b->view()->selectRow(1);
+  EXPECT_EQ(page->nameField()->text(), "Prøve 1.ape");  // a playing preview keeps its file
+  b->action(kBatchPlayPause)->trigger();                 // the focused row starts afresh
+  EXPECT_EQ(p.m_previewPlayingPath, t.Path("pv/שלום, 2.ape"));
+  EXPECT_FALSE(QFile::exists(t.Path("pv/Prøve 1.tmp")));
+  EXPECT_TRUE(QFile::exists(t.Path("pv/שלום, 2.tmp")));
+  b->action(kBatchPrevious)->trigger();
+  EXPECT_EQ(b->view()->currentIndex().row(), 0);
+  EXPECT_EQ(p.m_previewPlayingPath, t.Path("pv/Prøve 1.ape"));
+  EXPECT_FALSE(QFile::exists(t.Path("pv/שלום, 2.tmp")));
+
+  sys.Pull(3500);  // to the end of the three seconds
+  QTest::qWait(300);
+  EXPECT_FALSE(p.View().stopEnabled);
+  EXPECT_EQ(page->playButton()->accessibleName(), "Play");
+  EXPECT_EQ(b->view()->currentIndex().row(), 0);
+  b->OnBatchClose();
+  EXPECT_TRUE(WorkFilesUnder(t.Path("pv")).isEmpty());
+}
+
 // Every control a person can reach has a name; the list's cells read as the model's texts.
 TEST_F(BatchWindowTest, ControlsHaveAccessibleNames) {
   Put(Fixture("sine_16_stereo.wav"), "acc/one.wav");
@@ -331,13 +391,18 @@ TEST_F(BatchWindowTest, ControlsHaveAccessibleNames) {
   b->OnAddFolder();
   CBatchProgress progress(*b->list(), *t.s, BatchRunOptions{}, b.get());
   CTypeBP chooser(*t.s);
-  for (QWidget* top : std::initializer_list<QWidget*>{b.get(), &progress, &chooser}) {
+  // Each page of the tabs in turn, then the two dialogs.
+  for (QWidget* top : std::initializer_list<QWidget*>{b.get(), b.get(), &progress, &chooser}) {
+    b->tabs()->setCurrentIndex(top == b.get() ? 1 - b->tabs()->currentIndex() : 0);
     for (QWidget* w : top->findChildren<QWidget*>()) {
       const bool interactive = qobject_cast<QAbstractButton*>(w) || qobject_cast<QLineEdit*>(w) ||
                                qobject_cast<QAbstractItemView*>(w) || qobject_cast<QProgressBar*>(w) ||
-                               qobject_cast<QTabBar*>(w);
-      // Qt's own helpers (overflow arrows, the table's corner) stand hidden or without size here.
-      if (!interactive || qobject_cast<QHeaderView*>(w) || !w->isVisibleTo(top) || w->width() == 0) continue;
+                               qobject_cast<QTabBar*>(w) || qobject_cast<QAbstractSlider*>(w);
+      // Qt's own helpers (overflow arrows, the table's corner) stand hidden or without size
+      // here; a list's scroll bars are read by their role.
+      if (!interactive || qobject_cast<QHeaderView*>(w) || qobject_cast<QScrollBar*>(w) || !w->isVisibleTo(top) ||
+          w->width() == 0)
+        continue;
       QAccessibleInterface* a = QAccessible::queryAccessibleInterface(w);
       ASSERT_NE(a, nullptr);
       EXPECT_FALSE(a->text(QAccessible::Name).trimmed().isEmpty())
