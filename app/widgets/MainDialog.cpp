@@ -503,8 +503,14 @@ void CBrenlowv10Dlg::ConnectCommands() {
   });
 
   connect(m_testButton, &QPushButton::clicked, this, &CBrenlowv10Dlg::OnTest);
-  connect(m_peakRadio, &QRadioButton::clicked, this, [this] { SetTestMode(0); });
-  connect(m_averageRadio, &QRadioButton::clicked, this, [this] { SetTestMode(1); });
+  // Toggled rather than clicked: a screen reader toggles a radio without clicking it. The
+  // window's own setChecked from the session finds the mode already set and does nothing.
+  connect(m_peakRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(0);
+  });
+  connect(m_averageRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(1);
+  });
   // A choice in the list opens that entry, then the focus goes back to the window.
   connect(m_fileCombo, &QComboBox::activated, this, [this](int) {
     OpenByName(QString());
@@ -692,6 +698,8 @@ QString CBrenlowv10Dlg::ChooseFile() {
                      m_s.m_fileName.isEmpty() ? QString() : QFileInfo(m_s.m_fileName).absolutePath());
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(names);
+  // The captions name their patterns already; Qt would add them a second time.
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.selectNameFilter(names.value(qBound(1, Settings::NumberFilter(), int(names.size())) - 1));
   // The chosen type is remembered at once.
   connect(&dialog, &QFileDialog::filterSelected, this, [names](const QString& f) {

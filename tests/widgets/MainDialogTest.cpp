@@ -116,6 +116,18 @@ TEST_F(MainDialogTest, TimerOneAppliesTheEnablingRules) {
   EXPECT_EQ(dlg.session().m_statusText, "");
 }
 
+// A screen reader toggles a radio instead of clicking it; the test mode follows either way.
+TEST_F(MainDialogTest, RadiosFollowAssistiveTechnology) {
+  CBrenlowv10Dlg dlg;
+  dlg.show();
+  for (int mode : {1, 0}) {
+    QAccessibleInterface* radio = QAccessible::queryAccessibleInterface(dlg.control(mode ? kIdAverageRadio : kIdPeakRadio));
+    radio->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(dlg.session().m_testMode, mode);
+    EXPECT_EQ(dlg.label(kIdLeftMax)->isVisibleTo(&dlg), mode == 1);
+  }
+}
+
 TEST_F(MainDialogTest, EscapeKeepsTheWindowOpen) {
   CBrenlowv10Dlg dlg;
   dlg.show();
