@@ -18,7 +18,6 @@
 
 #include "app/Globals.h"
 #include "app/Settings.h"
-#include "app/SingleInstance.h"
 #include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/MainDialog.h"
 #include "controls/LevelBar.h"
@@ -133,14 +132,6 @@ TEST_F(MainDialogTest, MenuChecksFollowTheSettings) {
   EXPECT_TRUE(dlg.action(kCmdShowDb)->isChecked());
   EXPECT_FALSE(dlg.action(kCmdShowPercent)->isChecked());
   EXPECT_FALSE(dlg.action(kCmdBeep)->isChecked());
-}
-
-TEST_F(MainDialogTest, SecondInstanceIsRefused) {
-  qputenv("XDG_RUNTIME_DIR", t.dir.path().toUtf8());
-  SingleInstance first;
-  ASSERT_TRUE(first.Acquire());
-  SingleInstance second;
-  EXPECT_FALSE(second.Acquire());
 }
 
 TEST_F(MainDialogTest, SecondProcessPrintsTheMessageAndEnds) {
