@@ -39,6 +39,7 @@ struct Job {
   int testMode = 0;
   uint64_t size = 0;
   uint32_t durationMs = 0;
+  uint64_t work = 0;  // its share of the estimate
   int channels = 0;
   int bits = 0;
   bool bad = false;
@@ -139,11 +140,11 @@ class ScopedFlag {
 
 }  // namespace
 
-void BatchEstimate::Start(double now, uint64_t bytesToMeasure) {
+void BatchEstimate::Start(double now, uint64_t workToMeasure) {
   m_start = now;
   m_pausedAt = -1;
   m_pausedTotal = 0;
-  m_total = bytesToMeasure;
+  m_total = workToMeasure;
   m_done = 0;
 }
 
@@ -156,8 +157,8 @@ void BatchEstimate::PauseEnded(double now) {
   m_pausedAt = -1;
 }
 
-double BatchEstimate::FileMeasured(double now, uint64_t bytes) {
-  m_done += bytes;
+double BatchEstimate::FileMeasured(double now, uint64_t work) {
+  m_done += work;
   const double active = now - m_start - m_pausedTotal - (m_pausedAt >= 0 ? now - m_pausedAt : 0);
   if (m_done == 0 || active <= 0) return -1;
   const double speed = double(m_done) / active;
@@ -219,7 +220,8 @@ BatchRunSummary BatchRunner::Run() {
     if (!log->OpenLog()) log.reset();
   }
   std::vector<size_t> misses;
-  uint64_t missBytes = 0;
+  uint64_t missBytes = 0, missMs = 0;
+  bool lengthsKnown = true;
   for (size_t i = 0; i < jobs.size(); ++i) {
     Job& j = jobs[i];
     if (j.bad) continue;
@@ -236,6 +238,8 @@ BatchRunSummary BatchRunner::Run() {
     }
     misses.push_back(i);
     missBytes += j.size;
+    missMs += j.durationMs;
+    lengthsKnown = lengthsKnown && j.durationMs > 0;
   }
 
   std::unique_ptr<LogCommits> commits;
@@ -245,7 +249,8 @@ BatchRunSummary BatchRunner::Run() {
   }
 
   BatchEstimate estimate;
-  estimate.Start(start, missBytes);
+  estimate.Start(start, lengthsKnown ? missMs : missBytes);
+  for (size_t i : misses) jobs[i].work = lengthsKnown ? jobs[i].durationMs : jobs[i].size;
   m_control.pauseChanged = [&](bool paused) {
     if (paused)
       estimate.PauseBegan(clock.Now());
@@ -270,7 +275,9 @@ BatchRunSummary BatchRunner::Run() {
         const size_t k = next++;
         if (k >= misses.size()) break;
         const Job& j = jobs[misses[k]];
-        BatchMeasureRequest request{j.path, j.kind, j.testMode, showDb};
+        // The last files of the run leave cores free: they may take helper threads.
+        const bool helpers = m_options.jobs > 1 && misses.size() - k < size_t(m_options.jobs);
+        BatchMeasureRequest request{j.path, j.kind, j.testMode, showDb, helpers};
         BatchMeasureResult r = m_measure(request, m_control);
         {
           std::lock_guard<std::mutex> lock(mutex);
@@ -330,12 +337,12 @@ BatchRunSummary BatchRunner::Run() {
           j.durationMs = r.durationMs;
         }
         if (commits) commits->Push(j.path, j.kind, GroupOf(j.kind, j.testMode, showDb), r.result);
-        const double left = estimate.FileMeasured(clock.Now(), j.size);
-        if (left >= 0) view.Estimate(left);
       } else {
         out.state = BatchRowOutcome::Failed;
         out.error = r.error;
       }
+      const double left = estimate.FileMeasured(clock.Now(), j.work);
+      if (left >= 0) view.Estimate(left);
     }
     switch (out.state) {
       case BatchRowOutcome::Tested:

@@ -15,6 +15,7 @@ CAddFoldersDlg::CAddFoldersDlg(const QString& title, QWidget* owner) : QDialog(o
   auto* layout = new QVBoxLayout(this);
   auto* wait = new QLabel(Tonvane::tr("Please, wait the search files is fulfilling"), this);
   wait->setObjectName("searchMessage");
+  wait->setMinimumHeight(wait->fontMetrics().height() + 4);  // room for marks above capitals (Č)
   layout->addWidget(wait);
   m_path = new QLabel(this);
   m_path->setObjectName("searchPath");

@@ -67,6 +67,8 @@ CBatchProgress::CBatchProgress(BatchList& list, Session& s, const BatchRunOption
   facts->addWidget(m_countCaption, 1, 0);
   facts->addWidget(m_count, 1, 1);
   facts->setColumnStretch(1, 1);
+  // A line's height is the font's; marks above capitals (İ, Č, Ö) need a pixel or two more.
+  for (QLabel* l : {m_fileCaption, m_timeCaption, m_countCaption}) l->setMinimumHeight(l->fontMetrics().height() + 4);
   layout->addLayout(facts);
 
   m_closeWhenDone = new QCheckBox(Tonvane::tr("Close the window when the Batch Processing is finished"), this);

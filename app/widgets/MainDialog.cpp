@@ -503,8 +503,14 @@ void CBrenlowv10Dlg::ConnectCommands() {
   });
 
   connect(m_testButton, &QPushButton::clicked, this, &CBrenlowv10Dlg::OnTest);
-  connect(m_peakRadio, &QRadioButton::clicked, this, [this] { SetTestMode(0); });
-  connect(m_averageRadio, &QRadioButton::clicked, this, [this] { SetTestMode(1); });
+  // Toggled rather than clicked: a screen reader toggles a radio without clicking it. The
+  // window's own setChecked from the session finds the mode already set and does nothing.
+  connect(m_peakRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(0);
+  });
+  connect(m_averageRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(1);
+  });
   // A choice in the list opens that entry, then the focus goes back to the window.
   connect(m_fileCombo, &QComboBox::activated, this, [this](int) {
     OpenByName(QString());
@@ -692,6 +698,8 @@ QString CBrenlowv10Dlg::ChooseFile() {
                      m_s.m_fileName.isEmpty() ? QString() : QFileInfo(m_s.m_fileName).absolutePath());
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(names);
+  // The captions name their patterns already; Qt would add them a second time.
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.selectNameFilter(names.value(qBound(1, Settings::NumberFilter(), int(names.size())) - 1));
   // The chosen type is remembered at once.
   connect(&dialog, &QFileDialog::filterSelected, this, [names](const QString& f) {
@@ -702,12 +710,14 @@ QString CBrenlowv10Dlg::ChooseFile() {
   return dialog.selectedFiles().first();
 }
 
-bool CBrenlowv10Dlg::OpenedBy(const std::function<void()>& call) {
+bool CBrenlowv10Dlg::OpenedBy(const std::function<bool()>& call) {
   JoinWorker();  // a finished worker's thread is joined before a new one can start
   const QString before = g_workPath;
   const QString name = m_s.m_fileName;
-  call();
-  const bool opened = !g_workPath.isEmpty() && (g_workPath != before || m_s.m_fileName != name);
+  // An open of the file that is open already leaves the same paths behind, so the call's
+  // own word counts too; a question answered Yes may have opened another file instead.
+  const bool said = call();
+  const bool opened = !g_workPath.isEmpty() && (said || g_workPath != before || m_s.m_fileName != name);
   if (opened) {
     AfterOpen();
   } else {
@@ -721,7 +731,10 @@ void CBrenlowv10Dlg::OnFileOpen() {
   if (m_s.m_testRunning || g_workerBusy.load()) return;
   for (QLabel* l : m_clipLabels) l->setVisible(false);
   Call(m_player.stopAndRestore);
-  if (!OpenedBy([this] { ::OnFileOpen(m_s); }) && !g_workPath.isEmpty()) m_fileCombo->setFocus();
+  if (!OpenedBy([this] {
+        ::OnFileOpen(m_s);
+        return false;
+      }) && !g_workPath.isEmpty()) m_fileCombo->setFocus();
 }
 
 void CBrenlowv10Dlg::AfterOpen() {
@@ -792,7 +805,7 @@ int CBrenlowv10Dlg::OpenByName(const QString& path) {
 
   for (QLabel* l : m_clipLabels) l->setVisible(false);
   Call(m_player.stopAndRestore);
-  const bool opened = OpenedBy([this, &name] { OpenFileHeadless(m_s, QFileInfo(name).absoluteFilePath()); });
+  const bool opened = OpenedBy([this, &name] { return OpenFileHeadless(m_s, QFileInfo(name).absoluteFilePath()) == 1; });
   if (!opened && sel >= 0 && sel < m_fileCombo->count() && m_s.m_sourceKind != kKindAac && g_workPath.isEmpty()) {
     // A file its reader refused leaves the list.
     QSignalBlocker block(m_fileCombo);
@@ -914,12 +927,18 @@ void CBrenlowv10Dlg::OnTest() {
   if (g_workPath.isEmpty() || m_s.m_fileNotOpened) {
     // The core asks whether to choose a file; Yes opens the dialog.
     ClearBars();
-    OpenedBy([this, &fromLog] { RunTestOnOpenFile(m_s, fromLog); });
+    OpenedBy([this, &fromLog] {
+      RunTestOnOpenFile(m_s, fromLog);
+      return false;
+    });
     return;
   }
   StartTestUi();
   int ok = 0;
-  const bool opened = OpenedBy([this, &ok, &fromLog] { ok = RunTestOnOpenFile(m_s, fromLog); });
+  const bool opened = OpenedBy([this, &ok, &fromLog] {
+    ok = RunTestOnOpenFile(m_s, fromLog);
+    return false;
+  });
   m_exitDuringTest->setEnabled(false);
   if (ok) {
     RenderResult(ShowResult(m_s, m_bars[0]->Upper()));

@@ -148,7 +148,7 @@ class CBrenlowv10Dlg : public QMainWindow {
   void RenderResult(const LevelShowing& shown);
   void ClearBars();
   void AfterOpen();
-  bool OpenedBy(const std::function<void()>& call);
+  bool OpenedBy(const std::function<bool()>& call);
   void FillList();
   void ShowDuration();
   void ClearTimeLabels();

@@ -181,6 +181,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source> does not contain a sound data. Therefore the test is impossible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sorry, but the copy of this program is already launched and it is fulfilling. Therefore the launch of this copy program will be stopped.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1083,10 +1087,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> does not contain a sound data. Therefore the test is impossible.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -363,7 +363,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>A&amp;dd Folder...</source>
-        <translation>Añadir &amp;carpeta...</translation>
+        <translation>Añadir carp&amp;eta...</translation>
     </message>
     <message>
         <source>Add &amp;Folders...</source>

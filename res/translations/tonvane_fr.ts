@@ -359,7 +359,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>&amp;Add Files...</source>
-        <translation>Ajouter des &amp;fichiers...</translation>
+        <translation>&amp;Ajouter des fichiers...</translation>
     </message>
     <message>
         <source>A&amp;dd Folder...</source>
@@ -447,7 +447,7 @@ Voulez-vous choisir un fichier ?</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation>&amp;Fenêtre</translation>
+        <translation>Fe&amp;nêtre</translation>
     </message>
     <message>
         <source>&amp;Always on Top</source>

@@ -363,7 +363,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>A&amp;dd Folder...</source>
-        <translation>Aggiungi &amp;cartella...</translation>
+        <translation>Aggiungi car&amp;tella...</translation>
     </message>
     <message>
         <source>Add &amp;Folders...</source>
@@ -447,7 +447,7 @@ Scegliere un file?</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation>&amp;Finestra</translation>
+        <translation>Fi&amp;nestra</translation>
     </message>
     <message>
         <source>&amp;Always on Top</source>

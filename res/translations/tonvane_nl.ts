@@ -371,7 +371,7 @@ Wilt u een bestand kiezen?</translation>
     </message>
     <message>
         <source>Add &amp;Playlists...</source>
-        <translation>Af&amp;speellijsten toevoegen...</translation>
+        <translation>Afspeel&amp;lijsten toevoegen...</translation>
     </message>
     <message>
         <source>&amp;Close</source>

@@ -363,7 +363,7 @@ Bir dosya seçmek ister misiniz?</translation>
     </message>
     <message>
         <source>A&amp;dd Folder...</source>
-        <translation>&amp;Klasör ekle...</translation>
+        <translation>Klas&amp;ör ekle...</translation>
     </message>
     <message>
         <source>Add &amp;Folders...</source>

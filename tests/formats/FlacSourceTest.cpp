@@ -1,6 +1,3 @@
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -183,30 +180,4 @@ TEST(FlacSource, FullDiskEndsTheWorkerWithTheWriteMessage) {
   EXPECT_EQ(t.prompt.texts(),
             QStringList{"Sorry, but an error of write has occurred to the output file: /dev/full."});
   EXPECT_EQ(WorkerExitCode(), 1);
-}
-
-// The command line measures FLAC and Ogg Vorbis files through their work files and leaves
-// none behind.
-TEST(FlacSource, CommandLinePeakOfFlacAndOgg) {
-  TestSession t;
-  const QString flac = Stage(t, "flac_8_1.flac", "Prøve 1.flac");
-  const QString ogg = Stage(t, "ogg_2.ogg", "Prøve 2.ogg");
-  QByteArray out;
-  const int rc = testing_support::RunShell(
-      "'" + testing_support::CliPath() + "' --peak --json --no-log '" + flac + "' '" + ogg + "'", &out);
-  EXPECT_EQ(rc, 0) << out.toStdString();
-  const QList<QByteArray> lines = out.trimmed().split('\n');
-  ASSERT_EQ(lines.size(), 2) << out.toStdString();
-  const QJsonObject a = QJsonDocument::fromJson(lines[0]).object();
-  const QJsonObject b = QJsonDocument::fromJson(lines[1]).object();
-  EXPECT_TRUE(a["ok"].toBool());
-  EXPECT_EQ(a["bits"].toInt(), 8);
-  EXPECT_EQ(a["levels"].toArray().size(), 1);
-  // A sine at 0.8 of full scale written as unsigned 8-bit samples.
-  EXPECT_NEAR(a["result"].toObject()["WavLeft"].toDouble(), 80.0, 1.5);
-  EXPECT_TRUE(b["ok"].toBool());
-  EXPECT_EQ(b["levels"].toArray().size(), 2);
-  EXPECT_GT(b["result"].toObject()["WavRight"].toDouble(), 0.0);
-  EXPECT_FALSE(QFile::exists(t.Path("Prøve 1.tmp")));
-  EXPECT_FALSE(QFile::exists(t.Path("Prøve 2.tmp")));
 }

@@ -7,13 +7,21 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QTabWidget>
 #include <gtest/gtest.h>
 
 #include "app/Languages.h"
 #include "app/Settings.h"
+#include "app/Text.h"
 #include "app/widgets/AboutDialog.h"
+#include "app/widgets/AddFoldersDlg.h"
+#include "app/widgets/BatchProgressDlg.h"
+#include "app/widgets/BatchTypeDlg.h"
+#include "app/widgets/BatchWindow.h"
+#include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/MainDialog.h"
 #include "app/widgets/ShellMenus.h"
+#include "batch/BatchRun.h"
 #include "support/TestSupport.h"
 
 namespace {
@@ -27,26 +35,64 @@ QApplication& App() {
   return *app;
 }
 
-// Mnemonic letters of a menu's items that clash with another item of the same menu.
-QStringList Clashes(const QList<QAction*>& actions) {
+// The mnemonic letter of a text ("&Open" gives 'o'), or a null QChar.
+QChar Mnemonic(QString text) {
+  text.replace("&&", "");
+  const int at = text.indexOf('&');
+  return at < 0 || at + 1 >= text.size() ? QChar() : text.at(at + 1).toLower();
+}
+
+// Texts of one scope (a menu, or a window with its menu bar) that share a mnemonic letter.
+QStringList Clashes(const QStringList& texts) {
   QMap<QChar, QString> seen;
   QStringList clashes;
-  for (QAction* a : actions) {
-    const QString text = QString(a->text()).replace("&&", "");
-    const int at = text.indexOf('&');
-    if (at < 0 || at + 1 >= text.size()) continue;
-    const QChar key = text.at(at + 1).toLower();
-    if (seen.contains(key)) clashes << seen[key] + " / " + a->text();
-    seen[key] = a->text();
+  for (const QString& t : texts) {
+    const QChar key = Mnemonic(t);
+    if (key.isNull()) continue;
+    if (seen.contains(key)) clashes << seen[key] + " / " + t;
+    seen[key] = t;
   }
   return clashes;
+}
+
+// Every clash of a window: within each menu, and among the menu bar's titles and the
+// window's own buttons, labels, groups and tabs, which Alt reaches at the same time. The
+// batch list's context menu is left out: it gathers items of three menus, whose letters are
+// chosen within their own menus (in English too, Pa&use meets &Uncheck All there).
+QStringList WindowClashes(QWidget* window) {
+  // The window's own widgets, not those of windows it owns.
+  auto own = [window](QWidget* w) { return w->parentWidget() && w->parentWidget()->window() == window; };
+  const QString name = QString::fromLatin1(window->metaObject()->className());
+  QStringList out;
+  QStringList top;
+  for (QMenuBar* bar : window->findChildren<QMenuBar*>())
+    if (own(bar))
+      for (QAction* a : bar->actions()) top << a->text();
+  for (QAbstractButton* b : window->findChildren<QAbstractButton*>())
+    if (own(b) && b->isVisibleTo(window)) top << b->text();
+  for (QLabel* l : window->findChildren<QLabel*>())
+    if (own(l) && l->buddy()) top << l->text();
+  for (QGroupBox* g : window->findChildren<QGroupBox*>())
+    if (own(g)) top << g->title();
+  for (QTabWidget* t : window->findChildren<QTabWidget*>())
+    if (own(t))
+      for (int i = 0; i < t->count(); ++i) top << t->tabText(i);
+  for (const QString& c : Clashes(top)) out << name + ": " + c;
+  for (QMenu* m : window->findChildren<QMenu*>()) {
+    if (!own(m) || m->objectName() == "rowMenu") continue;
+    QStringList items;
+    for (QAction* a : m->actions())
+      if (a->isVisible()) items << a->text();
+    for (const QString& c : Clashes(items)) out << name + " " + m->title() + ": " + c;
+  }
+  return out;
 }
 
 // Texts that do not fit their widget at the window's size.
 QStringList Clipped(QWidget* root) {
   QStringList out;
   for (QLabel* l : root->findChildren<QLabel*>()) {
-    if (!l->isVisible() || l->text().isEmpty() || l->textFormat() == Qt::RichText || Qt::mightBeRichText(l->text()))
+    if (l->window() != root || !l->isVisible() || l->text().isEmpty() || l->textFormat() == Qt::RichText || Qt::mightBeRichText(l->text()))
       continue;
     const QRect r = l->contentsRect();
     if (l->wordWrap()) {
@@ -60,12 +106,12 @@ QStringList Clipped(QWidget* root) {
     }
   }
   for (QAbstractButton* b : root->findChildren<QAbstractButton*>()) {
-    if (!b->isVisible() || b->text().isEmpty()) continue;
+    if (b->window() != root || !b->isVisible() || b->text().isEmpty()) continue;
     if (b->sizeHint().width() > b->width())
       out << QStringLiteral("button %1 (%2 < %3 px): %4").arg(b->objectName()).arg(b->width()).arg(b->sizeHint().width()).arg(b->text());
   }
   for (QGroupBox* g : root->findChildren<QGroupBox*>()) {
-    if (!g->isVisible() || g->title().isEmpty()) continue;
+    if (g->window() != root || !g->isVisible() || g->title().isEmpty()) continue;
     if (g->fontMetrics().horizontalAdvance(g->title()) + 16 > g->width()) out << "group: " + g->title();
   }
   return out;
@@ -73,9 +119,9 @@ QStringList Clipped(QWidget* root) {
 
 }  // namespace
 
-// In every language, at the window's default size: no text is cut off and no two items of
-// one menu share a keyboard mnemonic (English keeps the two clashes of its given texts in
-// the Player menu).
+// In every language, at the windows' default sizes: no text is cut off, and no two items of
+// one menu or controls of one window share a keyboard mnemonic (English keeps the two
+// clashes of its given texts in the Player menu).
 TEST(LanguageFit, EveryLanguageFitsTheWindow) {
   App();
   testing_support::TestSession t;
@@ -114,12 +160,24 @@ TEST(LanguageFit, EveryLanguageFitsTheWindow) {
       about.show();
       QApplication::processEvents();
       for (const QString& c : Clipped(&about)) ADD_FAILURE() << lang.code << " about: " << c.toStdString();
+      // The batch window at its opening size, and the dialogs it opens.
+      CBatch batch(dlg.session(), kKindWav, &dlg);
+      batch.show();
+      CBatchProgress progress(*batch.list(), dlg.session(), BatchRunOptions{}, &batch);
+      CTypeBP chooser(dlg.session(), &dlg);
+      CAddFoldersDlg search(Tonvane::tr("Add Folders - Tonvane 1.0"), &batch);
+      CDataBase database(dlg.session(), &dlg);
+      const auto windows = {static_cast<QWidget*>(&batch), static_cast<QWidget*>(&progress), static_cast<QWidget*>(&chooser),
+                            static_cast<QWidget*>(&search), static_cast<QWidget*>(&database)};
+      for (QWidget* w : windows) w->show();
+      QApplication::processEvents();
+      for (QWidget* w : windows)
+        for (const QString& c : Clipped(w)) ADD_FAILURE() << lang.code << " " << w->metaObject()->className() << ": " << c.toStdString();
       if (code == "en") continue;
-      for (const QString& c : Clashes(dlg.menuBar()->actions())) ADD_FAILURE() << lang.code << " menu bar: " << c.toStdString();
-      for (QMenu* m : dlg.findChildren<QMenu*>()) {
-        for (const QString& c : Clashes(m->actions()))
-          ADD_FAILURE() << lang.code << " " << m->title().toStdString() << ": " << c.toStdString();
-      }
+      for (QWidget* w : std::initializer_list<QWidget*>{&dlg, &about})
+        for (const QString& c : WindowClashes(w)) ADD_FAILURE() << lang.code << " " << c.toStdString();
+      for (QWidget* w : windows)
+        for (const QString& c : WindowClashes(w)) ADD_FAILURE() << lang.code << " " << c.toStdString();
     }
   }
   QApplication::setFont(startFont);
