@@ -432,6 +432,16 @@ void WriteLevels(Session& s, const PeakExtremes& x, int bits, bool stereo) {
 
 }  // namespace
 
+int CheckWorkFileData(Session& s) {
+  MappedFile file;
+  if (g_workPath.isEmpty() || !file.Open(g_workPath)) return 0;
+  if (file.Size() == 0) return 1;
+  if (s.m_dataSize != 0) return 0;
+  if (s.m_allocGranularity == 0) s.m_allocGranularity = kAllocGranularity;
+  const bool windowed = file.Size() > uint64_t(s.m_allocGranularity) * 1600;
+  return FindSoundData(s, file, windowed) ? 0 : 1;
+}
+
 int ScanPeakLevels(Session& s) {
   const QString path = g_workPath;
   MappedFile file;

@@ -660,7 +660,7 @@ void CBrenlowv10Dlg::timerEvent(QTimerEvent* e) {
   if (g_copyFinished.exchange(0)) {
     ClearFileDisplay(m_s);
     RenderSession();
-    ApplyDisplayRules();
+    ClearListSelection();
   }
 }
 
@@ -722,7 +722,7 @@ bool CBrenlowv10Dlg::OpenedBy(const std::function<bool()>& call) {
     AfterOpen();
   } else {
     RenderSession();
-    if (g_workPath.isEmpty()) ApplyDisplayRules();
+    if (g_workPath.isEmpty()) ClearListSelection();
   }
   return opened;
 }
@@ -812,6 +812,13 @@ int CBrenlowv10Dlg::OpenByName(const QString& path) {
     m_fileCombo->removeItem(sel);
   }
   return opened ? 1 : 0;
+}
+
+// With no file open the list keeps its entries and selects none.
+void CBrenlowv10Dlg::ClearListSelection() {
+  ApplyDisplayRules();
+  QSignalBlocker block(m_fileCombo);
+  m_fileCombo->setCurrentIndex(-1);
 }
 
 void CBrenlowv10Dlg::ShowDuration() {
