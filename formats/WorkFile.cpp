@@ -427,6 +427,21 @@ bool FindDataChunk(const uint8_t* view, uint64_t viewSize, uint64_t limit, uint3
 
 MappedFile::~MappedFile() { Close(); }
 
+QByteArray MappedFile::ReadHead(uint64_t length) {
+  QByteArray out;
+  if (m_fd < 0) return out;
+  out.resize(qsizetype(length));
+  uint64_t have = 0;
+  while (have < length) {
+    const ssize_t n = ::pread(m_fd, out.data() + have, size_t(length - have), off_t(have));
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) break;
+    have += uint64_t(n);
+  }
+  out.resize(qsizetype(have));
+  return out;
+}
+
 bool MappedFile::Open(const QString& path) {
   Close();
   m_fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);

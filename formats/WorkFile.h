@@ -136,6 +136,9 @@ class MappedFile {
   const uint8_t* Map(uint64_t offset, uint64_t length);
   void Unmap();
   void Close();
+  // Up to `length` bytes from the file's start, read rather than mapped (fewer on a short
+  // read or an error).
+  QByteArray ReadHead(uint64_t length);
 
   uint64_t Size() const { return m_size; }
   const uint8_t* View() const { return m_view; }

@@ -431,7 +431,9 @@ void CBatch::FillAtOpening() {
 }
 
 void CBatch::PumpThrottled() {
-  if (!m_sincePump.isValid() || m_sincePump.elapsed() >= 8) {
+  // Each pump repaints the growing list; every 25 ms keeps the window lively and leaves
+  // the fill most of its time.
+  if (!m_sincePump.isValid() || m_sincePump.elapsed() >= 25) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     m_sincePump.restart();
   }
