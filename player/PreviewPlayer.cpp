@@ -303,15 +303,8 @@ void PreviewPlayer::ClearPreview() {
   Changed();
 }
 
-void PreviewPlayer::VolumeUp() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p < 90 ? p + 10 : 100);
-}
-
-void PreviewPlayer::VolumeDown() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p > 10 ? p - 10 : 0);
-}
+void PreviewPlayer::VolumeUp() { OnVolumeSlider(SteppedVolume(m_view.volumePos, true)); }
+void PreviewPlayer::VolumeDown() { OnVolumeSlider(SteppedVolume(m_view.volumePos, false)); }
 
 void PreviewPlayer::OnVolumeSlider(int pos) {
   pos = std::clamp(pos, 0, 100);
