@@ -434,7 +434,14 @@ void WriteLevels(Session& s, const PeakExtremes& x, int bits, bool stereo) {
 
 int CheckWorkFileData(Session& s) {
   MappedFile file;
-  if (g_workPath.isEmpty() || !file.Open(g_workPath)) return 0;
+  if (g_workPath.isEmpty()) return 0;
+  if (!file.Open(g_workPath)) {
+    // Gone or unreadable since the open (removed by hand, a cleaner): said as the scan says it.
+    ReportFileError(s, Tonvane::tr(" open a temporary copy of the file "), s.m_fileName,
+                    Tonvane::tr("Therefore the test will be stopped."), ErrorCodeFromErrno(file.LastErrno(), g_workPath),
+                    true);
+    return 1;
+  }
   if (file.Size() == 0) return 1;
   if (s.m_dataSize != 0) return 0;
   if (s.m_allocGranularity == 0) s.m_allocGranularity = kAllocGranularity;

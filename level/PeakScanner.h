@@ -16,9 +16,9 @@ struct Session;
 int ScanPeakLevels(Session& s);
 
 // The set-up that both tests make on a PCM work file before they measure. 0: there is sound
-// data to measure, or the file cannot be read here (the measurement reports that itself).
-// 1: the work file is empty (nothing is said) or has no data chunk (after the question; Yes
-// sets m_openDialogPending). The caller stops the test and lets the file go.
+// data to measure. 1: the work file cannot be opened (reported), is empty (nothing is said)
+// or has no data chunk (after the question; Yes sets m_openDialogPending). The caller then
+// stops the test and lets the file go.
 int CheckWorkFileData(Session& s);
 
 // The text of the question for a work file without a data chunk.
