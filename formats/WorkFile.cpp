@@ -1,7 +1,9 @@
 #include "formats/WorkFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
 #include <atomic>
@@ -77,6 +79,14 @@ QString WorkPathFor(const QString& source, int driveType) {
   int dot = source.lastIndexOf('.');
   if (dot > slash) return source.left(dot) + ".tmp";
   return source + ".tmp";
+}
+
+QString WritableWorkPath(const QString& beside) {
+  const QFileInfo at(beside);
+  if (::access(QFile::encodeName(at.absolutePath()).constData(), W_OK) == 0) return beside;
+  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/tonvane/work";
+  QDir().mkpath(cache);
+  return cache + '/' + at.fileName();
 }
 
 int DriveTypeOf(const QString& path) {

@@ -18,6 +18,11 @@ constexpr uint32_t kMaxWorkDataSize = 0xFFFFFF00u;
 // name, or ".tmp" added). On an optical or read-only mount the source itself.
 QString WorkPathFor(const QString& source, int driveType);
 
+// Where the work file of `beside` (a WorkPathFor path) really goes: beside the source, or,
+// when that folder cannot be written (another user's folder), under the same name in
+// $XDG_CACHE_HOME/tonvane/work/, which is made when missing.
+QString WritableWorkPath(const QString& beside);
+
 // 5 for a path on an iso9660 or udf mount, or on a mount that is read-only; else 3.
 int DriveTypeOf(const QString& path);
 
