@@ -551,7 +551,9 @@ void CBrenlowv10Dlg::ClearBars() {
 }
 
 void CBrenlowv10Dlg::ApplyDisplayRules() {
-  const bool stereo = ShowsStereo(m_s);
+  // With no file open the window keeps the layout it starts with, whatever a refused
+  // file's header said.
+  const bool stereo = g_workPath.isEmpty() || ShowsStereo(m_s);
   const DisplayRules r = RulesFor(m_s.m_testMode, m_s.m_showDb != 0, stereo, m_s.m_bits, m_s.m_sourceKind == kKindMp3);
   for (int i = 0; i < 2; ++i) {
     m_maxLabels[size_t(i)]->setText(r.maxLabelText);
