@@ -39,7 +39,8 @@ bool PlaysSource(const BatchFileInfo& info) {
 
 QString PreviewWorkPathFor(const QString& source) {
   const QString beside = WorkPathFor(source, 3);
-  if (QFileInfo(QFileInfo(beside).absolutePath()).isWritable()) return beside;
+  const QString folder = QFileInfo(beside).absolutePath();
+  if (DriveTypeOf(folder) != kDriveCdRom && QFileInfo(folder).isWritable()) return beside;
   const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/tonvane/work";
   QDir().mkpath(cache);
   return cache + '/' + QFileInfo(beside).fileName();

@@ -360,6 +360,15 @@ TEST_F(BatchWindowTest, PreviewPlaysTheFocusedRow) {
   EXPECT_NEAR(player_test::Peak(sys.Pull(300), 1), 0.0251f, 0.002f);
   b->action(kBatchVolumeUp)->trigger();
   EXPECT_EQ(page->volumeSlider()->value(), 20);
+  // On the page, Down and Up walk through its controls; Escape does not close the window.
+  b->tabs()->setCurrentIndex(1);
+  page->playButton()->setFocus();
+  QTest::keyClick(page->playButton(), Qt::Key_Down);
+  EXPECT_NE(b->focusWidget(), page->playButton());
+  QTest::keyClick(b->focusWidget(), Qt::Key_Up);
+  EXPECT_EQ(b->focusWidget(), page->playButton());
+  QTest::keyClick(page->playButton(), Qt::Key_Escape);
+  EXPECT_TRUE(b->isVisible());
 
   b->view()->selectRow(1);
   EXPECT_EQ(page->nameField()->text(), "Prøve 1.ape");  // a playing preview keeps its file
