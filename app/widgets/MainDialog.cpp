@@ -189,6 +189,7 @@ void CBrenlowv10Dlg::BuildMenus() {
   AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
   connect(action(kCmdHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
   connect(action(kCmdAbout), &QAction::triggered, shell, &ShellMenus::OnAbout);
+  connect(action(kCmdHomepage), &QAction::triggered, shell, &ShellMenus::OnHomepage);
 
   // Ctrl+X still asks to leave while a test runs, when the Exit item is grey.
   m_exitDuringTest = new QShortcut(QKeySequence("Ctrl+X"), this);
