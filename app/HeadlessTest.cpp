@@ -228,6 +228,8 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
     ClearFileDisplay(s);
     s.m_savedTitle.clear();  // the title goes back to the program's own, not the file's
     CloseWorkFile(s);
+    // Nothing will name the work file again once its path is dropped, so it goes now.
+    if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
     ClearSessionPaths();
     return stop();
   };

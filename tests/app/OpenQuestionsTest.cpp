@@ -125,7 +125,9 @@ TEST(OpenQuestions, TestOfAFileWithoutSoundLetsItGo) {
     t.prompt.answers.push_back({false, false});
     t.s->m_testMode = c.mode;
     bool fromLog = false;
+    const QString work = g_workPath;
     EXPECT_EQ(RunTestOnOpenFile(*t.s, fromLog), 0);
+    EXPECT_FALSE(QFile::exists(work)) << c.name << c.mode;
     ASSERT_EQ(t.prompt.requests.size(), 1u) << c.name << c.mode << t.prompt.texts().join('|').toStdString();
     EXPECT_TRUE(t.prompt.requests[0].text.startsWith(c.said)) << t.prompt.requests[0].text.toStdString();
     EXPECT_TRUE(g_workPath.isEmpty()) << c.name << c.mode;
