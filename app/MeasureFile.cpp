@@ -4,6 +4,7 @@
 
 #include "app/Job.h"
 #include "app/Session.h"
+#include "app/Text.h"
 #include "formats/Decode.h"
 #include "formats/FlacSource.h"
 #include "level/LevelAnalyser.h"
@@ -25,7 +26,7 @@ MeasureStatus FromDecode(DecodeStatus s) {
 
 }  // namespace
 
-MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control) {
+MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control, bool helpers) {
   MeasureReport r;
   try {
     DecodeJob job;
@@ -33,7 +34,9 @@ MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortabl
     job.source = path;
     job.control = &control;
     // MPEG audio (also inside a WAV) begins the analyser with a format that has no peak test.
-    LevelAnalyser analyser(true, true);
+    // A test asks for its own group only: the other kernel's work would be thrown away.
+    LevelAnalyser analyser(true, testMode != 1, testMode != 0);
+    if (!helpers) analyser.StayOnCallerThread();
     DecodeToSink(job, analyser);
     if (job.Began()) analyser.End(SizeRule::AsAnnounced);  // a no-op after the decoder's own End
     r.messages = job.messages;
@@ -54,6 +57,9 @@ MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortabl
     if (kind == kKindFlac && job.flacError != kFlacNoError && r.status != MeasureStatus::Stopped)
       r.status = MeasureStatus::Damaged;
     if (r.status == MeasureStatus::Ok && analyser.Frames() == 0) r.status = MeasureStatus::NoSound;
+    if (r.status == MeasureStatus::NoSound && r.messages.isEmpty())
+      r.messages << Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + path +
+                        Tonvane::tr(" does not contain a sound data. Therefore the test is impossible.");
     if (r.status != MeasureStatus::Ok) return r;
 
     r.result = analyser.Result();

@@ -49,8 +49,11 @@ struct MeasureReport {
 // or raw AAC file, told apart by its content; kKindWav follows the file's format tag, so a
 // WAV holding MPEG Layer III is measured as MPEG audio). `testMode` says which group must
 // come through for Ok: 0 peak, 1 average, -1 whatever the samples give. `control` can stop or pause it from
-// another thread and receives the progress. Never throws.
-MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control);
+// another thread and receives the progress. `helpers`: the analysis may take threads of
+// its own beside the caller's; false keeps the whole measurement on the calling thread
+// (a caller that already keeps every core busy). The figures are the same. Never throws.
+MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortable& control,
+                          bool helpers = true);
 
 // Copies the group of one test (1: average; 0: peak in dB when `showDb`, else in percent)
 // from a measurement into `to`; the other groups of `to` stay as they are.

@@ -82,8 +82,8 @@ bool BatchAdder::Go() {
   return !m_cancelled;
 }
 
-void BatchAdder::Report(const QString& path, const QString& text, const QString& family) {
-  m_problems.push_back({path, text});
+void BatchAdder::Report(const QString& path, const QString& text, const QString& family, bool folder) {
+  m_problems.push_back({path, text, m_list.FileCount(), folder});
   m_s.m_prompt.Message(text, PromptIcon::Information, family);
 }
 
@@ -184,7 +184,7 @@ int BatchAdder::AddFolder(const QString& folder, bool recursive) {
       Report(dir,
              Tonvane::tr("Sorry, but the folder ") + dir + Tonvane::tr(" cannot be read: ") +
                  QString::fromLocal8Bit(std::strerror(entries.error)) + ".",
-             QStringLiteral("notAgainFolder"));
+             QStringLiteral("notAgainFolder"), true);
       continue;
     }
     for (const QString& file : entries.files) {

@@ -50,7 +50,9 @@ class BatchAdder {
   bool Cancelled() const { return m_cancelled; }
   struct Problem {
     QString path;
-    QString text;  // the program's message
+    QString text;        // the program's message
+    int beforeRow = 0;   // the list's row count when it came: its place among the rows
+    bool folder = false; // a folder that could not be read, not a file
   };
   const std::vector<Problem>& Problems() const { return m_problems; }
   // Shows the message of every bad file scanned (the window); off, the row carries it.
@@ -62,7 +64,7 @@ class BatchAdder {
 
  private:
   bool Go();
-  void Report(const QString& path, const QString& text, const QString& family = {});
+  void Report(const QString& path, const QString& text, const QString& family = {}, bool folder = false);
   int Scan(const QString& path);
 
   BatchList& m_list;

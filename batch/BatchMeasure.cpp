@@ -1,13 +1,19 @@
 #include "batch/BatchMeasure.h"
 
-#include <QFileInfo>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+
+#include "app/FileErrors.h"
 #include "app/Job.h"
 #include "app/MeasureFile.h"
 #include "app/Text.h"
 #include "batch/BatchControl.h"
-#include "formats/FlacSource.h"
 #include "app/Session.h"
+#include "formats/FlacSource.h"
 
 namespace {
 
@@ -39,7 +45,7 @@ BatchMeasureResult MeasureForBatch(const BatchMeasureRequest& request, BatchCont
   const QString full = QFileInfo(request.path).absoluteFilePath();
   const int mode = request.kind == kKindMp3 ? 1 : request.testMode;
   ControlAbortable abortable(control);
-  const MeasureReport m = MeasureFile(full, request.kind, mode, abortable);
+  const MeasureReport m = MeasureFile(full, request.kind, mode, abortable, request.helpers);
   out.channels = m.channels;
   out.bits = m.bits;
   out.durationMs = m.durationMs;
@@ -55,7 +61,16 @@ BatchMeasureResult MeasureForBatch(const BatchMeasureRequest& request, BatchCont
     return out;
   }
   out.status = BatchMeasureResult::Failed;
-  if (m.status == MeasureStatus::Damaged && request.kind == kKindFlac && m.flacError != kFlacNoError)
+  // A file that went away or lost its sound since it was listed says so in the system's
+  // words rather than in the decoder's.
+  struct stat st;
+  const QByteArray name = QFile::encodeName(full);
+  if (::stat(name.constData(), &st) != 0 || ::access(name.constData(), R_OK) != 0)
+    out.error = FileErrorText(Tonvane::tr(" cannot be opened"), full, QString(), ErrorCodeFromErrno(errno, full), true);
+  else if (st.st_size == 0)
+    out.error = Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + full +
+                Tonvane::tr(" is empty and does not contain any sound data.");
+  else if (m.status == MeasureStatus::Damaged && request.kind == kKindFlac && m.flacError != kFlacNoError)
     out.error = Tonvane::tr("Sorry but the file ") + full + Tonvane::tr(" has errors. ") + FlacStatusText(m.flacError);
   else if (!m.messages.isEmpty())
     out.error = m.messages.join('\n');

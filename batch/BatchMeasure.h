@@ -15,6 +15,10 @@ struct BatchMeasureRequest {
   int kind = 0;      // the row's kind
   int testMode = 0;  // 0 peak, 1 average (MP3 rows always take the average)
   bool showDb = false;
+  // The file may take threads of its own beside the worker's (the analysis, the second
+  // channel's filters). Off while every core has a file of its own: the threads would
+  // only take turns with the other workers.
+  bool helpers = false;
 };
 
 struct BatchMeasureResult {

@@ -19,8 +19,8 @@ struct CliOptions {
                                   "wav, flac, ogg, ape or mp4 (AAC and ALAC); a named file of another kind is "
                                   "refused. Without it every supported file is taken and measured by its own kind.",
                           "KIND"};
-  QCommandLineOption jobs{"jobs", "Measure N files at a time (default: the number of processor cores). The "
-                                  "results and the test log are the same for any N.",
+  QCommandLineOption jobs{"jobs", "Keep N processor cores busy, one file each (default: the number of cores). "
+                                  "The results and the test log are the same for any N.",
                           "N"};
   QCommandLineOption json{"json", "One JSON object per file and line; the summary goes to the standard error."};
   QCommandLineOption csv{"csv", "One CSV row per file with the test log's columns, a status and a message; "

@@ -361,21 +361,24 @@ int main(int argc, char** argv) {
     out.flush();
   }
 
-  // Gather: every PATH in order. A named file that can't be taken keeps its place.
+  // Gather: every PATH in order. A file that can't be taken (named, or a playlist's
+  // missing entry) keeps its place as a failed row; an unreadable folder fails the run.
+  bool folderFailed = false;
   {
     BatchAdder add(list, s, &control);
     for (const QString& path : paths) {
-      const QFileInfo fi(path);
-      const bool named = !fi.isDir() && !(IsPlaylistName(path) && fi.isFile());
-      const size_t before = add.Problems().size();
       add.AddPath(path, p.isSet(o.recursive));
       if (add.Cancelled()) break;
-      if (named && add.Problems().size() > before) {
-        HeadlessReport r;
-        r.file = add.Problems().back().path;
-        r.error = add.Problems().back().text;
-        view.refused.push_back({list.FileCount(), r});
+    }
+    for (const BatchAdder::Problem& problem : add.Problems()) {
+      if (problem.folder) {
+        folderFailed = true;
+        continue;
       }
+      HeadlessReport r;
+      r.file = problem.path;
+      r.error = problem.text;
+      view.refused.push_back({problem.beforeRow, r});
     }
   }
   if (g_interrupted) return 130;
@@ -399,7 +402,7 @@ int main(int argc, char** argv) {
     view.PrintRefused(INT32_MAX);
     JoinWorker();
     if (g_interrupted) return 130;
-    return failures ? 1 : 0;
+    return failures || folderFailed ? 1 : 0;
   }
 
   // Every listed file is the person's choice: a bad one is reported in its place.
@@ -426,5 +429,5 @@ int main(int argc, char** argv) {
   out.flush();
   JoinWorker();
   if (sum.cancelled || g_interrupted) return 130;
-  return failures ? 1 : 0;
+  return failures || folderFailed ? 1 : 0;
 }

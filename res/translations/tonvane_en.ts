@@ -109,6 +109,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source> was not possible to fulfill.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Russian</source>
         <translation type="unfinished"></translation>
     </message>
@@ -178,6 +182,10 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Program should be restarted to set another interface language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> does not contain a sound data. Therefore the test is impossible.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -817,6 +825,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Error initializing decoder library faad. </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1030,10 +1042,6 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> was not possible to fulfill.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>  Bit Rate              </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1083,10 +1091,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>create a copy of the flow descriptor copying the file is</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> does not contain a sound data. Therefore the test is impossible.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

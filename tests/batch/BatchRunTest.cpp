@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QtEndian>
 #include <atomic>
 
 #include "app/Globals.h"
@@ -21,6 +22,7 @@ using testing_support::ApeData;
 using testing_support::Fixture;
 using testing_support::ReadFile;
 using testing_support::TestSession;
+using testing_support::WriteFile;
 
 namespace {
 
@@ -247,20 +249,31 @@ TEST_F(BatchRunTest, BadFilesInARun) {
   const QString gone = Put(Fixture("flac_16_2.flac"), "bad/3 gone.flac");
   Put(ApeData("s16_stereo_44k_corrupt.ape"), "bad/4 corrupt.ape");
   Put(Fixture("ogg_hole.ogg"), "bad/5 hole.ogg");
-  QByteArray before;
+  const QString emptied = Put(Fixture("gain_stereo.mp3"), "bad/6 emptied.mp3");
+  // The Vorbis headers: the pages before the first one with a granule position.
+  const QByteArray ogg = ReadFile(Fixture("ogg_2.ogg"));
+  qsizetype end = 0;
+  while (ogg.mid(end, 4) == "OggS" && qFromLittleEndian<qint64>(ogg.constData() + end + 6) == 0) {
+    const int segments = uchar(ogg[end + 26]);
+    qsizetype body = 0;
+    for (int i = 0; i < segments; ++i) body += uchar(ogg[end + 27 + i]);
+    end += 27 + segments + body;
+  }
+  ASSERT_TRUE(WriteFile(t.Path("bad/7 headers only.ogg"), ogg.left(end + 100)));  // and a cut page
   BatchList list(kAnyKind);
   BatchAdder add(list, *t.s);
   add.AddFolder(t.Path("bad"), false);
-  ASSERT_EQ(list.FileCount(), 5);
+  ASSERT_EQ(list.FileCount(), 7);
   QFile::remove(gone);  // deleted between adding and the run
+  QFile::resize(emptied, 0);
   QHash<QString, QByteArray> sources;
   for (int r = 0; r < list.FileCount(); ++r) sources[list.PathOf(r)] = ReadFile(list.PathOf(r));
   RecordingView view;
   const BatchRunSummary s = RunList(list, 1, 2, &view);
   EXPECT_FALSE(s.cancelled);
-  EXPECT_EQ(s.count, 5);
+  EXPECT_EQ(s.count, 7);
   EXPECT_GE(s.tested, 1);
-  EXPECT_EQ(s.tested + s.failed, 5);
+  EXPECT_EQ(s.tested + s.failed, 7);
   for (const BatchRowOutcome& o : view.rows) {
     if (o.state == BatchRowOutcome::Failed) {
       EXPECT_TRUE(o.error.startsWith("Sorry")) << o.path.toStdString() << ": " << o.error.toStdString();
@@ -269,7 +282,11 @@ TEST_F(BatchRunTest, BadFilesInARun) {
     EXPECT_EQ(ReadFile(o.path), sources[o.path]) << o.path.toStdString();
   }
   EXPECT_EQ(view.rows[1].state, BatchRowOutcome::Tested);
-  EXPECT_EQ(view.rows[2].state, BatchRowOutcome::Failed);
+  const QString sorry = "Sorry, but the file " + t.Path("bad/");
+  EXPECT_EQ(view.rows[2].error, sorry + "3 gone.flac cannot be opened impossible. Because the file does not exist.");
+  EXPECT_EQ(view.rows[5].error, sorry + "6 emptied.mp3 is empty and does not contain any sound data.");
+  EXPECT_EQ(view.rows[6].error,
+            sorry + "7 headers only.ogg does not contain a sound data. Therefore the test is impossible.");
   const QStringList left = QDir(t.Path("bad")).entryList({"*.tmp"}, QDir::Files);
   EXPECT_TRUE(left.isEmpty()) << left.join(", ").toStdString();
 }

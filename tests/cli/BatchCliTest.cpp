@@ -81,9 +81,12 @@ TEST_F(BatchCli, FoldersPlaylistsAndKinds) {
   r = Cli("--peak --no-log -r --kind flac " + Quote(root));
   EXPECT_EQ(r.Files(), QStringList({"2 שלום.flac", "broken.flac", "x.flac"}));
 
+  // The missing entry is a failed row in its place.
   r = Cli("--average --no-log " + Quote(root + "/list.m3u8"));
-  EXPECT_EQ(r.Files(), QStringList({"1 mp3.mp3", "01 Prøve.wav"}));
-  EXPECT_TRUE(r.err.contains("Sorry, but the file " + (root + "/gone.wav").toUtf8() + " cannot be found."));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.Files(), QStringList({"1 mp3.mp3", "01 Prøve.wav", "gone.wav"}));
+  EXPECT_TRUE(r.out.contains("  error: Sorry, but the file " + (root + "/gone.wav").toUtf8() + " cannot be found.\n"));
+  EXPECT_TRUE(r.out.contains("\n3 files, 2 tested, 0 from the log, 1 failed; ")) << r.out.toStdString();
 }
 
 // One worker or four: the same output and the same log bytes; a second run comes from the

@@ -1,11 +1,12 @@
 // tonvane-cli with the test log: a second run over unchanged files answers from the log and
-// reads no samples (the binary's own count of sample bytes says so), --no-log measures
-// again, and a log held by another process is passed over.
+// reads no samples (the binary's own count of sample bytes says so); --no-log, a log held by
+// another process and a changed file make it measure again.
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QTemporaryDir>
 #include <vector>
 
@@ -65,65 +66,43 @@ double Level(const QJsonObject& o, int channel) {
 
 }  // namespace
 
-TEST_F(LogCli, SecondRunAnswersFromTheLogAndReadsNoSamples) {
-  CliRun first = RunCli("--peak " + LogArgs(), files);
-  ASSERT_EQ(first.status, 0);
-  ASSERT_EQ(first.files.size(), 3u);
-  for (const QJsonObject& o : first.files) {
-    EXPECT_FALSE(o["fromLog"].toBool());
-    EXPECT_GT(o["sampleBytesRead"].toDouble(), 0);
-  }
-  EXPECT_NEAR(Level(first.files[0], 0), 50.0, 0.1);
-  const QByteArray logAfterFirst = ReadFile(log);
-  EXPECT_TRUE(logAfterFirst.contains(("\"" + QString(files[0]).replace("\"", "\"\"") + "\",").toUtf8()));
-
-  CliRun second = RunCli("--peak " + LogArgs(), files);
-  ASSERT_EQ(second.files.size(), 3u);
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_TRUE(second.files[i]["fromLog"].toBool()) << i;
-    EXPECT_EQ(second.files[i]["sampleBytesRead"].toDouble(), 0) << i;
-    EXPECT_EQ(Level(second.files[i], 0), Level(first.files[i], 0));
-    EXPECT_EQ(Level(second.files[i], 1), Level(first.files[i], 1));
-  }
-  EXPECT_EQ(ReadFile(log), logAfterFirst);
-
-  // --no-log measures again and leaves the log alone.
-  CliRun fresh = RunCli("--peak --no-log " + LogArgs(), files);
-  ASSERT_EQ(fresh.files.size(), 3u);
-  for (const QJsonObject& o : fresh.files) {
-    EXPECT_FALSE(o["fromLog"].toBool());
-    EXPECT_GT(o["sampleBytesRead"].toDouble(), 0);
-  }
-  EXPECT_EQ(ReadFile(log), logAfterFirst);
-}
-
-// Each test fills its own group of the one row; a changed file is measured again.
-TEST_F(LogCli, EachTestHasItsGroupAndAChangedFileIsMeasuredAgain) {
-  for (const bool again : {false, true})
-    for (const QString args : {"--peak", "--peak --db", "--average"}) {
-      CliRun r = RunCli(args + " " + LogArgs(), {files[0]});
-      ASSERT_EQ(r.files.size(), 1u);
-      EXPECT_TRUE(r.files[0]["ok"].toBool()) << args.toStdString();
-      EXPECT_EQ(r.files[0]["fromLog"].toBool(), again) << args.toStdString();
+// Runs over the same three files in order: whether each answer comes from the log (and then
+// reads no sample and gives the measured figures), and whether the log stays as it was.
+TEST_F(LogCli, RunsAnswerFromTheLogWhenTheyMay) {
+  struct Step {
+    const char* args;
+    bool locked;  // flock(1) holds the log, as the window does during a test
+    bool fromLog, logKept;
+  } steps[] = {
+      {"--peak", false, false, false},      {"--peak", false, true, true},
+      {"--peak --no-log", false, false, true}, {"--peak", true, false, true},
+      {"--peak --db", false, false, false}, {"--average", false, false, false},  // a group each
+      {"--peak --db", false, true, true},   {"--average", false, true, true},
+  };
+  QMap<QString, std::vector<double>> measured;
+  for (const Step& st : steps) {
+    SCOPED_TRACE(testing::Message() << st.args << (st.locked ? " locked" : ""));
+    const QByteArray before = ReadFile(log);
+    const CliRun r = RunCli(QString(st.args) + " " + LogArgs(), files, st.locked ? "flock " + Quote(log) + " " : "");
+    ASSERT_EQ(r.status, 0);
+    ASSERT_EQ(r.files.size(), 3u);
+    std::vector<double> levels;
+    for (const QJsonObject& o : r.files) {
+      EXPECT_EQ(o["fromLog"].toBool(), st.fromLog);
+      EXPECT_EQ(o["sampleBytesRead"].toDouble() == 0, st.fromLog);
+      levels.insert(levels.end(), {Level(o, 0), Level(o, 1)});
     }
-  ASSERT_EQ(RunShell("touch -d '2001-02-03 04:05:06' " + Quote(files[0])), 0);
-  CliRun changed = RunCli("--peak " + LogArgs(), {files[0]});
-  ASSERT_EQ(changed.files.size(), 1u);
-  EXPECT_FALSE(changed.files[0]["fromLog"].toBool());
-  EXPECT_TRUE(ReadFile(log).contains(",2001,2,3,4,5,6,"));
-}
-
-TEST_F(LogCli, LogHeldByAnotherProcessIsPassedOver) {
-  RunCli("--peak " + LogArgs(), {files[0]});
-  const QByteArray before = ReadFile(log);
-  // flock(1) holds the log's lock while the CLI runs, as the window does during a test.
-  CliRun locked = RunCli("--peak " + LogArgs(), files, "flock " + Quote(log) + " ");
-  ASSERT_EQ(locked.status, 0);
-  ASSERT_EQ(locked.files.size(), 3u);
-  for (const QJsonObject& o : locked.files) {
-    EXPECT_TRUE(o["ok"].toBool());
-    EXPECT_FALSE(o["fromLog"].toBool());
-    EXPECT_GT(o["sampleBytesRead"].toDouble(), 0);
+    if (st.fromLog) EXPECT_EQ(levels, measured[st.args]);
+    measured[st.args] = levels;
+    if (st.logKept) EXPECT_EQ(ReadFile(log), before);
   }
-  EXPECT_EQ(ReadFile(log), before);
+  EXPECT_TRUE(ReadFile(log).contains(("\"" + QString(files[0]).replace("\"", "\"\"") + "\",").toUtf8()));
+
+  // A changed file is measured again, the others still come from the log.
+  ASSERT_EQ(RunShell("touch -d '2001-02-03 04:05:06' " + Quote(files[0])), 0);
+  const CliRun changed = RunCli("--peak " + LogArgs(), files);
+  ASSERT_EQ(changed.files.size(), 3u);
+  EXPECT_FALSE(changed.files[0]["fromLog"].toBool());
+  EXPECT_TRUE(changed.files[2]["fromLog"].toBool());
+  EXPECT_TRUE(ReadFile(log).contains(",2001,2,3,4,5,6,"));
 }

@@ -98,27 +98,6 @@ TEST(ApeDecoderTest, DamagedFramesEndWithAnErrorAndGiveNoSample) {
   EXPECT_EQ(bad.pcm.size(), 0);
 }
 
-TEST(ApeDecoderTest, InformationFieldsOfTheLibrary) {
-  int error = -1;
-  const std::wstring w = ApeData("s24_stereo_96k.ape").toStdWString();
-  APE_DECOMPRESS_HANDLE h = c_APEDecompress_CreateW(w.c_str(), &error);
-  ASSERT_NE(h, nullptr);
-  EXPECT_EQ(error, 0);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1000), 3990);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1003), 96000);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1004), 24);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1006), 2);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1007), 6);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1013), 192000 * 6);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1016), 192000);
-  EXPECT_EQ(c_APEDecompress_GetInfo(h, 1017), 2000);
-  c_APEDecompress_Destroy(h);
-
-  const std::wstring missing = ApeData("none.ape").toStdWString();
-  EXPECT_EQ(c_APEDecompress_CreateW(missing.c_str(), &error), nullptr);
-  EXPECT_EQ(error, ape::kErrRead);
-}
-
 // Reads of any size give the same samples, across frame boundaries (two frames here).
 TEST(ApeDecoderTest, ReadSizeDoesNotChangeTheSamples) {
   const QString file = ApeData("s16_stereo_44k_c1000.ape");

@@ -56,43 +56,32 @@ TEST(OpenPipeline, KindsBySuffixInAnyCase) {
   EXPECT_TRUE(IsMp4Name("/p/q.M4r"));
 }
 
+// Extensions of 2 or 5 letters, or none, are "incorrect", even when a kind would fit; a
+// 3-letter one no kind has is named. Without `ask` nothing is said.
 TEST(OpenPipeline, CheckFileNameQuestions) {
-  TestSession t;
-  Session& s = *t.s;
   const QString incorrect = "Sorry, but the file name is incorrect. Please, select another file." + kAskAgain;
-  // Extensions of 2 or 5 letters, or none, are "incorrect", even when a kind would fit.
-  for (const char* name : {"/d/a.wv", "/d/a.mpeg4", "/d/noext", "/d/a.FLACC"}) {
-    t.prompt.clear();
-    s.m_fileName = name;
-    EXPECT_EQ(CheckFileName(s, 1), 1) << name;
-    EXPECT_EQ(t.prompt.texts(), QStringList(incorrect)) << name;
-    EXPECT_TRUE(t.prompt.requests[0].yesNo);
+  auto unsupported = [](const char* ext) {
+    return QString("Sorry, but file name with extension \"%1\",  is not supported by the program. Please, "
+                   "select another file.").arg(ext) + kAskAgain;
+  };
+  struct Case {
+    const char* name;
+    int ask, refused;
+    QString text;
+  } cases[] = {{"/d/a.wv", 1, 1, incorrect},   {"/d/a.mpeg4", 1, 1, incorrect}, {"/d/noext", 1, 1, incorrect},
+               {"/d/a.FLACC", 1, 1, incorrect}, {"/d/a.mp2", 1, 1, unsupported("mp2")},
+               {"/d/x.tmp", 1, 1, unsupported("tmp")}, {"/d/a.mp2", 0, 1, ""}, {"/d/a.FLA", 1, 0, ""},
+               {"/d/a.Mp3", 1, 0, ""},     {"/d/a.wave", 1, 0, ""}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    TestSession t;
+    t.s->m_canPlay = 1;
+    t.s->m_fileName = c.name;
+    EXPECT_EQ(CheckFileName(*t.s, c.ask), c.refused);
+    EXPECT_EQ(t.prompt.texts(), c.text.isEmpty() ? QStringList() : QStringList(c.text));
+    if (!c.text.isEmpty()) EXPECT_TRUE(t.prompt.requests[0].yesNo);
+    if (c.text != incorrect) EXPECT_EQ(t.s->m_canPlay, c.text.isEmpty() ? 1 : 0);  // an unknown kind can't play
   }
-  // A 3-letter extension that no kind has: named between double quotes.
-  t.prompt.clear();
-  s.m_canPlay = 1;
-  s.m_fileName = "/d/a.mp2";
-  EXPECT_EQ(CheckFileName(s, 1), 1);
-  EXPECT_EQ(t.prompt.texts(),
-            QStringList("Sorry, but file name with extension \"mp2\",  is not supported by the program. Please, "
-                        "select another file." +
-                        kAskAgain));
-  EXPECT_EQ(s.m_canPlay, 0);
-  s.m_fileName = "/d/x.tmp";
-  EXPECT_EQ(CheckFileName(s, 1), 1);
-  EXPECT_TRUE(t.prompt.texts().last().contains("extension \"tmp\""));
-
-  // Without `ask` nothing is said; a fit passes in any case.
-  t.prompt.clear();
-  s.m_canPlay = 1;
-  s.m_fileName = "/d/a.mp2";
-  EXPECT_EQ(CheckFileName(s, 0), 1);
-  EXPECT_EQ(s.m_canPlay, 1);
-  for (const char* name : {"/d/a.FLA", "/d/a.Mp3", "/d/a.wave"}) {
-    s.m_fileName = name;
-    EXPECT_EQ(CheckFileName(s, 1), 0) << name;
-  }
-  EXPECT_TRUE(t.prompt.requests.empty());
 }
 
 TEST(OpenPipeline, YesReopensTheDialogAfterTheRefusedOpen) {

@@ -95,6 +95,21 @@ bool RunTest(TestSession& t, const QString& path, LogTest test, const LevelResul
   return false;
 }
 
+// The figures the log gives for a test of the file; a miss is a failure.
+LevelResult Hit(TestSession& t, const QString& path, LogTest test) {
+  LevelResult v;
+  EXPECT_TRUE(RunTest(t, path, test, {}, &v)) << path.toStdString();
+  return v;
+}
+
+// Where the file's record starts, as a look-up finds it.
+int64_t OffsetOf(TestSession& t, const QString& path) {
+  TestLog l(*t.s);
+  l.OpenLog();
+  l.FindRow(path);
+  return l.FoundRowOffset();
+}
+
 int64_t SizeOf(const QString& path) { return QFileInfo(path).size(); }
 
 QByteArray Header() {
@@ -139,10 +154,7 @@ TEST(TestLogFile, AppendedRecordIsRowAndFillerAndNextRecordFollows) {
   EXPECT_EQ(SizeOf(log), 226 + n + 2 + 100 + 2);
 
   EXPECT_FALSE(RunTest(t, b, LogTest::Wav, Wav(1, 2)));
-  TestLog l(*t.s);
-  ASSERT_TRUE(l.OpenLog());
-  EXPECT_EQ(l.FindRow(b), RowState::Fresh);
-  EXPECT_EQ(l.FoundRowOffset(), 226 + n + 2 + 100 + 2);
+  EXPECT_EQ(OffsetOf(t, b), 226 + n + 2 + 100 + 2);
 }
 
 TEST(TestLogFile, StaleRewriteKeepsSizeAndTheNextRecordsPlace) {
@@ -154,13 +166,7 @@ TEST(TestLogFile, StaleRewriteKeepsSizeAndTheNextRecordsPlace) {
   RunTest(t, a, LogTest::Wav, Wav(12.5f, 13.5f));
   RunTest(t, b, LogTest::Wav, Wav(1, 2));
   const int64_t size = SizeOf(log);
-  int64_t bOffset;
-  {
-    TestLog l(*t.s);
-    l.OpenLog();
-    l.FindRow(b);
-    bOffset = l.FoundRowOffset();
-  }
+  const int64_t bOffset = OffsetOf(t, b);
   const QByteArray tail = ReadFile(log).mid(bOffset);
 
   SetStamp(a, TimeOf({2022, 11, 30, 23, 59, 58}));
@@ -172,14 +178,12 @@ TEST(TestLogFile, StaleRewriteKeepsSizeAndTheNextRecordsPlace) {
   }
   EXPECT_EQ(SizeOf(log), size);
   EXPECT_EQ(ReadFile(log).mid(bOffset), tail);
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::WavPik, {}, &v));
-  EXPECT_EQ(v.WavPikLeft, -3.0f);
-  EXPECT_EQ(v.WavPikNoClippingRight, 2.0f);
+  const LevelResult pik = Hit(t, a, LogTest::WavPik);
+  EXPECT_EQ(pik.WavPikLeft, -3.0f);
+  EXPECT_EQ(pik.WavPikNoClippingRight, 2.0f);
   // Stale marks the other groups absent: the old percent values are gone.
   EXPECT_FALSE(RunTest(t, a, LogTest::Wav, Wav(7, 8)));
-  EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavRight, 2.0f);
+  EXPECT_EQ(Hit(t, b, LogTest::Wav).WavRight, 2.0f);
 }
 
 TEST(TestLogFile, ThreeTestsOfOneFileFillAllThreeGroups) {
@@ -192,15 +196,12 @@ TEST(TestLogFile, ThreeTestsOfOneFileFillAllThreeGroups) {
   EXPECT_FALSE(RunTest(t, a, LogTest::WavPik, WavPik(-6, -4.4f, 0, 0)));
   EXPECT_FALSE(RunTest(t, a, LogTest::Gain, Gain(85.5f, 86.25f, -1.5f, 0)));
   const int64_t size = SizeOf(t.s->m_logPath);
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavLeft, 50.0f);
-  EXPECT_EQ(v.WavRight, 60.0f);
-  EXPECT_TRUE(RunTest(t, a, LogTest::WavPik, {}, &v));
-  EXPECT_EQ(v.WavPikRight, -4.4f);
-  EXPECT_TRUE(RunTest(t, a, LogTest::Gain, {}, &v));
-  EXPECT_EQ(v.GainRight, 86.25f);
-  EXPECT_EQ(v.NoClippingLeft, -1.5f);
+  const LevelResult wav = Hit(t, a, LogTest::Wav), gain = Hit(t, a, LogTest::Gain);
+  EXPECT_EQ(wav.WavLeft, 50.0f);
+  EXPECT_EQ(wav.WavRight, 60.0f);
+  EXPECT_EQ(Hit(t, a, LogTest::WavPik).WavPikRight, -4.4f);
+  EXPECT_EQ(gain.GainRight, 86.25f);
+  EXPECT_EQ(gain.NoClippingLeft, -1.5f);
   EXPECT_EQ(SizeOf(t.s->m_logPath), size);  // all rewrites in place
   // The look-up and the write in two opens, as a flow that closes the log while it
   // measures: the caller hands the carried groups back.
@@ -221,11 +222,8 @@ TEST(TestLogFile, ThreeTestsOfOneFileFillAllThreeGroups) {
     l.OpenLog();
     EXPECT_TRUE(l.WriteRow(c, LogTest::Gain, RowState::Fresh, carried));
   }
-  LevelResult v2;
-  EXPECT_TRUE(RunTest(t, c, LogTest::Wav, {}, &v2));
-  EXPECT_EQ(v2.WavLeft, 10.0f);
-  EXPECT_TRUE(RunTest(t, c, LogTest::Gain, {}, &v2));
-  EXPECT_EQ(v2.GainLeft, 70.0f);
+  EXPECT_EQ(Hit(t, c, LogTest::Wav).WavLeft, 10.0f);
+  EXPECT_EQ(Hit(t, c, LogTest::Gain).GainLeft, 70.0f);
 
   LevelResult all;
   const QByteArray bytes = ReadFile(t.s->m_logPath);
@@ -246,13 +244,11 @@ TEST(TestLogFile, Mp3RowsHoldOnlyTheGainGroup) {
   const QString a = MakeSource(t, "a.mp3");
   EXPECT_FALSE(RunTest(t, a, LogTest::Gain, Gain(89, 88, 0.5f, 0)));
   EXPECT_TRUE(ReadFile(t.s->m_logPath).contains(",89.000000,88.000000,0.500000,0.000000,0,0,0,0,0,0\r\n"));
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::Gain, {}, &v));
-  EXPECT_EQ(v.GainRight, 88.0f);
+  EXPECT_EQ(Hit(t, a, LogTest::Gain).GainRight, 88.0f);
   // Even a row whose gains are all 400 is a hit for an MP3 file.
   const QString b = MakeSource(t, "b.mp3");
   RunTest(t, b, LogTest::Gain, Gain(400, 400, 400, 400));
-  EXPECT_TRUE(RunTest(t, b, LogTest::Gain, {}, &v));
+  Hit(t, b, LogTest::Gain);
 }
 
 TEST(TestLogFile, LongerRowBlanksTheOldRecordAndAppends) {
@@ -264,15 +260,7 @@ TEST(TestLogFile, LongerRowBlanksTheOldRecordAndAppends) {
   RunTest(t, a, LogTest::Wav, Wav(1, 2));
   RunTest(t, b, LogTest::Wav, Wav(3, 4));
   const QByteArray before = ReadFile(log);
-  int64_t aOffset, bOffset;
-  {
-    TestLog l(*t.s);
-    l.OpenLog();
-    l.FindRow(b);
-    bOffset = l.FoundRowOffset();
-    l.FindRow(a);
-    aOffset = l.FoundRowOffset();
-  }
+  const int64_t aOffset = OffsetOf(t, a), bOffset = OffsetOf(t, b);
   {
     TestLog l(*t.s);
     l.OpenLog();
@@ -290,12 +278,9 @@ TEST(TestLogFile, LongerRowBlanksTheOldRecordAndAppends) {
     if (c != '\r' && c != '\n') c = ' ';
   EXPECT_EQ(after.mid(aOffset, bOffset - aOffset), blanked);
   EXPECT_EQ(after.mid(bOffset, before.size() - bOffset), before.mid(bOffset));
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::WavPik, {}, &v));
-  EXPECT_EQ(v.WavPikLeft, -1234567.0f);
-  EXPECT_TRUE(RunTest(t, a, LogTest::Wav, {}, &v));  // carried over
-  EXPECT_EQ(v.WavRight, 2.0f);
-  EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
+  EXPECT_EQ(Hit(t, a, LogTest::WavPik).WavPikLeft, -1234567.0f);
+  EXPECT_EQ(Hit(t, a, LogTest::Wav).WavRight, 2.0f);  // carried over
+  Hit(t, b, LogTest::Wav);
 }
 
 TEST(TestLogFile, PathsOfAnyScriptAndPunctuationRoundTrip) {
@@ -310,9 +295,7 @@ TEST(TestLogFile, PathsOfAnyScriptAndPunctuationRoundTrip) {
   }
   level = 1;
   for (const QString& n : names) {
-    LevelResult v;
-    EXPECT_TRUE(RunTest(t, t.Path(n), LogTest::Wav, {}, &v)) << n.toStdString();
-    EXPECT_EQ(v.WavLeft, level++) << n.toStdString();
+    EXPECT_EQ(Hit(t, t.Path(n), LogTest::Wav).WavLeft, level++);
   }
   EXPECT_TRUE(ReadFile(t.s->m_logPath).contains("a,b.wav\","));
 }
@@ -374,11 +357,8 @@ TEST(TestLogFile, HandEditedLogsReadWithADefinedOutcome) {
   WriteFile(log, good.left(226) + junk + aRecord + junk + bRecord.left(bRecord.indexOf("\r\n") + 2) + cut);
   const QByteArray edited = ReadFile(log);
 
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavLeft, 11.0f);
-  EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavRight, 22.0f);
+  EXPECT_EQ(Hit(t, a, LogTest::Wav).WavLeft, 11.0f);
+  EXPECT_EQ(Hit(t, b, LogTest::Wav).WavRight, 22.0f);
   {
     // A batch keeps the log open: the second look-up goes through the index of every key,
     // which must agree with the walk.
@@ -398,8 +378,7 @@ TEST(TestLogFile, HandEditedLogsReadWithADefinedOutcome) {
   WriteFile(log, good.left(226) + cut);
   EXPECT_FALSE(RunTest(t, b, LogTest::Wav, Wav(5, 6)));
   EXPECT_TRUE(ReadFile(log).startsWith(good.left(226) + cut + "\r\n" + b.toUtf8() + ","));
-  EXPECT_TRUE(RunTest(t, b, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavLeft, 5.0f);
+  EXPECT_EQ(Hit(t, b, LogTest::Wav).WavLeft, 5.0f);
 
   // A row that a crash left unfinished starts with '#' and matches no path.
   WriteFile(log, good.left(226) + "#" + aRecord.mid(1));
@@ -425,9 +404,7 @@ TEST(TestLogFile, HundredThousandRecords) {
   for (int i = 0; i < 100'000; ++i) big += QByteArray(other).replace("%1", QByteArray::number(i));
   big += good.mid(226);
   WriteFile(t.s->m_logPath, big);
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::Wav, {}, &v));
-  EXPECT_EQ(v.WavRight, 4.0f);
+  EXPECT_EQ(Hit(t, a, LogTest::Wav).WavRight, 4.0f);
   TestLog l(*t.s);
   ASSERT_TRUE(l.OpenLog());
   EXPECT_EQ(l.FindRow("/other/file-99999.wav"), RowState::Stale);  // no such file: no stamp
@@ -462,8 +439,7 @@ TEST(TestLogFile, FullDiskLeavesTheLogAsItWas) {
   EXPECT_EQ(ReadFile(log), before);
   ASSERT_EQ(t.prompt.requests.size(), 1u);
   EXPECT_EQ(t.prompt.requests[0].icon, PromptIcon::Warning);
-  LevelResult v;
-  EXPECT_TRUE(RunTest(t, a, LogTest::Wav, {}, &v));
+  Hit(t, a, LogTest::Wav);
   EXPECT_FALSE(RunTest(t, b, LogTest::Wav, Wav(3, 4)));
 }
 
