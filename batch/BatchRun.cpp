@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cmath>
 #include <condition_variable>
+#include <deque>
+#include <functional>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -37,6 +39,7 @@ struct Job {
   int testMode = 0;
   uint64_t size = 0;
   uint32_t durationMs = 0;
+  uint64_t work = 0;  // its share of the estimate
   int channels = 0;
   int bits = 0;
   bool bad = false;
@@ -48,6 +51,81 @@ struct Job {
 struct Slot {
   bool done = false;
   BatchMeasureResult result;
+};
+
+// The log's records of a run, written on a thread of their own in list order: each record
+// is synced to the disk twice, which would otherwise hold the window's thread for tens of
+// milliseconds a file. The log is this thread's alone from the first record to Finish.
+class LogCommits {
+ public:
+  LogCommits(TestLog& log, Session& s) : m_log(log), m_s(s), m_thread([this] { Work(); }) {}
+  ~LogCommits() { Finish({}); }
+  void Push(const QString& path, int kind, LogTest group, const LevelResult& result) {
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_queue.push_back({path, kind, group, result});
+    }
+    m_wake.notify_one();
+  }
+  // Writes what is queued and ends the thread; `pump` keeps the front end alive meanwhile
+  // (a failed write asks the window to show its message).
+  void Finish(const std::function<void()>& pump) {
+    if (!m_thread.joinable()) return;
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_finishing = true;
+    }
+    m_wake.notify_one();
+    for (;;) {
+      std::unique_lock<std::mutex> lock(m_mutex);
+      if (m_wake.wait_for(lock, std::chrono::milliseconds(16), [this] { return m_idle; })) break;
+      lock.unlock();
+      if (pump) pump();
+    }
+    m_thread.join();
+  }
+
+ private:
+  struct Entry {
+    QString path;
+    int kind;
+    LogTest group;
+    LevelResult result;
+  };
+  void Work() {
+    for (;;) {
+      Entry e;
+      {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_wake.wait(lock, [this] { return !m_queue.empty() || m_finishing; });
+        if (m_queue.empty()) {
+          m_idle = true;
+          m_wake.notify_all();
+          return;
+        }
+        e = std::move(m_queue.front());
+        m_queue.pop_front();
+      }
+      // The log tells MP3 rows by the session's kind, which the run set for its first row;
+      // it changes here only in a list that mixes MP3 rows with others.
+      if ((m_s.m_sourceKind == kKindMp3) != (e.kind == kKindMp3)) m_s.m_sourceKind = e.kind;
+      const RowState state = m_log.FindRow(e.path);
+      if (state == RowState::Fresh) {
+        LevelResult carried;
+        m_log.ReadResult(e.group, carried);  // the other groups stay in the record
+      }
+      m_log.WriteRow(e.path, e.group, state, e.result);
+    }
+  }
+
+  TestLog& m_log;
+  Session& m_s;
+  std::mutex m_mutex;
+  std::condition_variable m_wake;
+  std::deque<Entry> m_queue;
+  bool m_finishing = false;
+  bool m_idle = false;
+  std::thread m_thread;
 };
 
 // Sets a session flag for the life of the run.
@@ -62,11 +140,11 @@ class ScopedFlag {
 
 }  // namespace
 
-void BatchEstimate::Start(double now, uint64_t bytesToMeasure) {
+void BatchEstimate::Start(double now, uint64_t workToMeasure) {
   m_start = now;
   m_pausedAt = -1;
   m_pausedTotal = 0;
-  m_total = bytesToMeasure;
+  m_total = workToMeasure;
   m_done = 0;
 }
 
@@ -79,8 +157,8 @@ void BatchEstimate::PauseEnded(double now) {
   m_pausedAt = -1;
 }
 
-double BatchEstimate::FileMeasured(double now, uint64_t bytes) {
-  m_done += bytes;
+double BatchEstimate::FileMeasured(double now, uint64_t work) {
+  m_done += work;
   const double active = now - m_start - m_pausedTotal - (m_pausedAt >= 0 ? now - m_pausedAt : 0);
   if (m_done == 0 || active <= 0) return -1;
   const double speed = double(m_done) / active;
@@ -142,7 +220,8 @@ BatchRunSummary BatchRunner::Run() {
     if (!log->OpenLog()) log.reset();
   }
   std::vector<size_t> misses;
-  uint64_t missBytes = 0;
+  uint64_t missBytes = 0, missMs = 0;
+  bool lengthsKnown = true;
   for (size_t i = 0; i < jobs.size(); ++i) {
     Job& j = jobs[i];
     if (j.bad) continue;
@@ -159,10 +238,19 @@ BatchRunSummary BatchRunner::Run() {
     }
     misses.push_back(i);
     missBytes += j.size;
+    missMs += j.durationMs;
+    lengthsKnown = lengthsKnown && j.durationMs > 0;
+  }
+
+  std::unique_ptr<LogCommits> commits;
+  if (log) {
+    if (!jobs.empty()) m_s.m_sourceKind = jobs.front().kind;
+    commits = std::make_unique<LogCommits>(*log, m_s);
   }
 
   BatchEstimate estimate;
-  estimate.Start(start, missBytes);
+  estimate.Start(start, lengthsKnown ? missMs : missBytes);
+  for (size_t i : misses) jobs[i].work = lengthsKnown ? jobs[i].durationMs : jobs[i].size;
   m_control.pauseChanged = [&](bool paused) {
     if (paused)
       estimate.PauseBegan(clock.Now());
@@ -248,22 +336,13 @@ BatchRunSummary BatchRunner::Run() {
           m_list.SetDuration(j.row, r.durationMs);
           j.durationMs = r.durationMs;
         }
-        if (log) {
-          m_s.m_sourceKind = j.kind;
-          const LogTest group = GroupOf(j.kind, j.testMode, showDb);
-          const RowState state = log->FindRow(j.path);
-          if (state == RowState::Fresh) {
-            LevelResult carried;
-            log->ReadResult(group, carried);  // the other groups stay in the record
-          }
-          log->WriteRow(j.path, group, state, r.result);
-        }
-        const double left = estimate.FileMeasured(clock.Now(), j.size);
-        if (left >= 0) view.Estimate(left);
+        if (commits) commits->Push(j.path, j.kind, GroupOf(j.kind, j.testMode, showDb), r.result);
       } else {
         out.state = BatchRowOutcome::Failed;
         out.error = r.error;
       }
+      const double left = estimate.FileMeasured(clock.Now(), j.work);
+      if (left >= 0) view.Estimate(left);
     }
     switch (out.state) {
       case BatchRowOutcome::Tested:
@@ -288,6 +367,8 @@ BatchRunSummary BatchRunner::Run() {
   if (summary.cancelled) m_control.Cancel();  // workers stop at their next poll
   for (std::thread& t : workers) t.join();
   m_control.pauseChanged = nullptr;
+  if (commits) commits->Finish(m_control.processEvents);
+  commits.reset();
   if (log) log->CloseLog();
   summary.wallSeconds = clock.Now() - start;
   if (summary.cancelled)
