@@ -34,7 +34,8 @@ MeasureReport MeasureFile(const QString& path, int kind, int testMode, IAbortabl
     job.source = path;
     job.control = &control;
     // MPEG audio (also inside a WAV) begins the analyser with a format that has no peak test.
-    LevelAnalyser analyser(true, true);
+    // A test asks for its own group only: the other kernel's work would be thrown away.
+    LevelAnalyser analyser(true, testMode != 1, testMode != 0);
     if (!helpers) analyser.StayOnCallerThread();
     DecodeToSink(job, analyser);
     if (job.Began()) analyser.End(SizeRule::AsAnnounced);  // a no-op after the decoder's own End

@@ -37,6 +37,7 @@ struct Job {
   int testMode = 0;
   uint64_t size = 0;
   uint32_t durationMs = 0;
+  uint64_t work = 0;  // its share of the estimate
   int channels = 0;
   int bits = 0;
   bool bad = false;
@@ -62,11 +63,11 @@ class ScopedFlag {
 
 }  // namespace
 
-void BatchEstimate::Start(double now, uint64_t bytesToMeasure) {
+void BatchEstimate::Start(double now, uint64_t workToMeasure) {
   m_start = now;
   m_pausedAt = -1;
   m_pausedTotal = 0;
-  m_total = bytesToMeasure;
+  m_total = workToMeasure;
   m_done = 0;
 }
 
@@ -79,8 +80,8 @@ void BatchEstimate::PauseEnded(double now) {
   m_pausedAt = -1;
 }
 
-double BatchEstimate::FileMeasured(double now, uint64_t bytes) {
-  m_done += bytes;
+double BatchEstimate::FileMeasured(double now, uint64_t work) {
+  m_done += work;
   const double active = now - m_start - m_pausedTotal - (m_pausedAt >= 0 ? now - m_pausedAt : 0);
   if (m_done == 0 || active <= 0) return -1;
   const double speed = double(m_done) / active;
@@ -142,7 +143,8 @@ BatchRunSummary BatchRunner::Run() {
     if (!log->OpenLog()) log.reset();
   }
   std::vector<size_t> misses;
-  uint64_t missBytes = 0;
+  uint64_t missBytes = 0, missMs = 0;
+  bool lengthsKnown = true;
   for (size_t i = 0; i < jobs.size(); ++i) {
     Job& j = jobs[i];
     if (j.bad) continue;
@@ -159,10 +161,13 @@ BatchRunSummary BatchRunner::Run() {
     }
     misses.push_back(i);
     missBytes += j.size;
+    missMs += j.durationMs;
+    lengthsKnown = lengthsKnown && j.durationMs > 0;
   }
 
   BatchEstimate estimate;
-  estimate.Start(start, missBytes);
+  estimate.Start(start, lengthsKnown ? missMs : missBytes);
+  for (size_t i : misses) jobs[i].work = lengthsKnown ? jobs[i].durationMs : jobs[i].size;
   m_control.pauseChanged = [&](bool paused) {
     if (paused)
       estimate.PauseBegan(clock.Now());
@@ -258,12 +263,12 @@ BatchRunSummary BatchRunner::Run() {
           }
           log->WriteRow(j.path, group, state, r.result);
         }
-        const double left = estimate.FileMeasured(clock.Now(), j.size);
-        if (left >= 0) view.Estimate(left);
       } else {
         out.state = BatchRowOutcome::Failed;
         out.error = r.error;
       }
+      const double left = estimate.FileMeasured(clock.Now(), j.work);
+      if (left >= 0) view.Estimate(left);
     }
     switch (out.state) {
       case BatchRowOutcome::Tested:

@@ -79,14 +79,16 @@ class IBatchClock {
   virtual double Now() = 0;
 };
 
-// Time left from the bytes measured so far and the time they took, pauses left out.
+// Time left from the work measured so far and the time it took, pauses left out. The
+// work of a file is its length in milliseconds when every file's length is known (the
+// decoders' cost follows the audio, not the bytes, when kinds are mixed), else its size.
 class BatchEstimate {
  public:
-  void Start(double now, uint64_t bytesToMeasure);
+  void Start(double now, uint64_t workToMeasure);
   void PauseBegan(double now);
   void PauseEnded(double now);
-  // A file of `bytes` was measured; returns the seconds left (negative before any data).
-  double FileMeasured(double now, uint64_t bytes);
+  // A file of `work` was measured; returns the seconds left (negative before any data).
+  double FileMeasured(double now, uint64_t work);
 
  private:
   double m_start = 0;

@@ -87,12 +87,15 @@ void LevelBar::SetTiedText(bool on) {
 }
 
 void LevelBar::SetShowDb(bool db) {
+  if (db != m_showDb) updateGeometry();
   m_showDb = db;
   Changed();
 }
 
 void LevelBar::SetSuffix(const QString& suffix) {
+  if (suffix == m_suffix) return;
   m_suffix = suffix;
+  updateGeometry();
   Changed();
 }
 
@@ -109,6 +112,12 @@ QString LevelBar::Text() const {
 int LevelBar::FilledLength(int length) const {
   if (m_upper == m_lower || m_pos <= m_lower) return 0;
   return int((double(m_pos) - m_lower) * length / (m_upper - m_lower));
+}
+
+int LevelBar::TextWidth() const {
+  const QFontMetrics fm(font());
+  const int widest = fm.horizontalAdvance(LevelBarText(888.8, m_showDb, m_suffix));
+  return std::max(38, widest + 10);  // the frame's five pixels and a little air
 }
 
 bool LevelBar::TextDrawn() const {

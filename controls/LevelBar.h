@@ -34,8 +34,9 @@ class LevelBar : public QWidget {
   // False when the tied text does not fit into the fill and so is not drawn.
   bool TextDrawn() const;
 
-  QSize sizeHint() const override { return {38, 160}; }
-  QSize minimumSizeHint() const override { return {30, 100}; }
+  // Wide enough for the widest text a level can have, so that it is never cut at the sides.
+  QSize sizeHint() const override { return {TextWidth(), 160}; }
+  QSize minimumSizeHint() const override { return {TextWidth(), 100}; }
 
  protected:
   void paintEvent(class QPaintEvent*) override;
@@ -43,6 +44,7 @@ class LevelBar : public QWidget {
  private:
   void Changed();
   int FilledLength(int length) const;
+  int TextWidth() const;
 
   int m_lower = 0, m_upper = 100;
   float m_pos = 0;

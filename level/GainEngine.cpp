@@ -214,7 +214,6 @@ int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgres
   AnalysisRun run(dialog, batchProgress, progressCount, batch);
   if (!run.Poll()) return kGainStopped;
 
-  std::vector<double> buffer(kChunkFrames * used);
   uint64_t done = 0;
   while (done < frames) {
     const uint64_t pos = dataOffset + done * frameBytes;
@@ -227,8 +226,7 @@ int RMS(const QString& path, int windowedMapping, Session& dialog, IBatchProgres
     const uint8_t* p = view + (pos - mapStart);
     while (avail > 0) {
       const size_t n = size_t(std::min<uint64_t>(avail, kChunkFrames));
-      ToSixteenBitScale(p, n, channels, used, kind, buffer.data());
-      an.Process(buffer.data(), n);
+      an.ProcessPcm(p, n, channels, kind);
       g_sampleBytesRead += n * frameBytes;
       p += n * frameBytes;
       avail -= n;

@@ -20,13 +20,10 @@ namespace {
 // decoder runs ahead by at most this much.
 constexpr size_t kBlockBytes = 256 * 1024;
 constexpr size_t kQueuedBlocks = 4;
-// Frames converted to the 16-bit scale at a time.
-constexpr size_t kScaleFrames = 4096;
-
 }  // namespace
 
 struct LevelAnalyser::State {
-  bool threaded, wantPeak;
+  bool threaded, wantPeak, wantGain;
   bool callerOnly = false;
   PcmFormat format;
   size_t frameBytes = 0;
@@ -41,7 +38,6 @@ struct LevelAnalyser::State {
   SampleKind kind = SampleKind::S16;
   int used = 0;
   ReplayGainAnalyser gain;
-  std::vector<double> scaled;
   uint64_t frames = 0;
 
   // The block being filled, and the hand-over to the analysis thread.
@@ -56,14 +52,7 @@ struct LevelAnalyser::State {
   void Analyse(const uint8_t* p, size_t n) {
     frames += n;
     if (extremes) extremes->Feed(p, n);
-    if (!gainOk) return;
-    while (n > 0) {
-      const size_t k = std::min(n, kScaleFrames);
-      ToSixteenBitScale(p, k, format.channels, used, kind, scaled.data());
-      gain.Process(scaled.data(), k);
-      p += k * frameBytes;
-      n -= k;
-    }
+    if (gainOk) gain.ProcessPcm(p, n, format.channels, kind);
   }
 
   void Run() {
@@ -123,9 +112,10 @@ struct LevelAnalyser::State {
   }
 };
 
-LevelAnalyser::LevelAnalyser(bool threaded, bool peak) : m(std::make_unique<State>()) {
+LevelAnalyser::LevelAnalyser(bool threaded, bool peak, bool gain) : m(std::make_unique<State>()) {
   m->threaded = threaded;
   m->wantPeak = peak;
+  m->wantGain = gain;
 }
 
 LevelAnalyser::~LevelAnalyser() { m->Stop(); }
@@ -147,9 +137,10 @@ bool LevelAnalyser::Begin(const PcmFormat& f) {
   }
   // The gain engine reads up to 64 channels and analyses the first two.
   m->used = std::min(f.channels, 2);
-  m->gainOk = f.channels <= 64 && SampleKindOf(f.bits, f.formatTag, m->kind) && f.sampleRate > 0 &&
-              m->gain.Init(f.sampleRate, m->used, !m->callerOnly);
-  m->scaled.resize(kScaleFrames * size_t(m->used));
+  // Beside a decoder the analysis has a thread of its own already; inside Write the
+  // filters may take a second one, unless everything is to stay on the caller's thread.
+  m->gainOk = m->wantGain && f.channels <= 64 && SampleKindOf(f.bits, f.formatTag, m->kind) &&
+              f.sampleRate > 0 && m->gain.Init(f.sampleRate, m->used, !m->threaded && !m->callerOnly);
   m->fill.reserve(kBlockBytes + m->frameBytes);
   if (m->threaded) m->worker = std::thread([s = m.get()] { s->Run(); });
   return true;

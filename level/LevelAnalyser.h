@@ -13,9 +13,9 @@
 class LevelAnalyser : public PcmSink {
  public:
   // `threaded`: the analysis runs on a thread of its own beside the decoder, which hands it
-  // blocks of whole frames; otherwise it runs inside Write. `peak`: the peak test's groups
-  // are wanted (MPEG audio has none).
-  explicit LevelAnalyser(bool threaded = true, bool peak = true);
+  // blocks of whole frames; otherwise it runs inside Write. `peak`, `gain`: the peak test's
+  // groups (MPEG audio has none) and the average test's group are wanted.
+  explicit LevelAnalyser(bool threaded = true, bool peak = true, bool gain = true);
   ~LevelAnalyser() override;
   // No thread beside the caller's at all: the analysis runs inside Write and the loudness
   // filters take none of their own (a caller that already keeps every core busy). Before

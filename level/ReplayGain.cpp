@@ -13,6 +13,13 @@
 #include <immintrin.h>
 #endif
 
+// Every multiply and add rounds on its own, as written: a fused multiply-add would give
+// other bits on processors that have one. (GCC fuses only where the target has FMA, which
+// none of the functions here asks for.)
+#if defined(__clang__)
+#pragma clang fp contract(off)
+#endif
+
 extern "C" {
 #include <libavutil/channel_layout.h>
 #include <libavutil/opt.h>
@@ -157,45 +164,60 @@ constexpr int kHighestRate = 1536000;
 constexpr size_t kHistogramBins = 12000;  // 0 to 120 dB in 0.01 dB steps
 constexpr double kPercentile = 0.95;
 
-// Frames gathered before the filters run: enough work for both channels' threads to be
-// worth a hand-over, little enough memory (1 MiB for stereo).
+// Frames gathered before the filters run: a batch is what the filter thread takes at a
+// time (1 MiB for stereo), enough work to be worth a hand-over.
 constexpr size_t kBatchFrames = 65536;
 
-// One channel's filter memory and its block levels.
+// The past inputs that the filters reach back to: a batch carries them in front of its
+// frames, so that the numerator of the first frames reads them in place.
+constexpr size_t kHistory = 10;
+
+// One channel's filter memory.
 struct ChannelMemory {
-  double x[10] = {};  // past inputs, newest first
+  double x[10] = {};  // past inputs, oldest first
   double y[10] = {};  // past Yule-Walker outputs, newest first
   double z[2] = {};   // past Butterworth outputs, newest first
   double sum = 0;     // squares of the running block
-  std::vector<uint32_t> histogram;
-  std::vector<double> input;  // the span's samples behind the last 10 inputs, oldest first
-  std::vector<double> fir;    // the Yule-Walker numerator's part of each output
+  std::vector<double> fir;  // the Yule-Walker numerator's part of each output
+};
+
+// Two lanes, one per channel of a stereo stream: every operation is done lane by lane, in
+// double precision, so a lane gives the bits of the scalar loop on its channel.
+typedef double Lanes __attribute__((vector_size(16)));
+
+// Both channels' filter memory, side by side (left in lane 0).
+struct PairMemory {
+  Lanes x[10] = {};  // past inputs, oldest first
+  Lanes y[10] = {};  // past Yule-Walker outputs, newest first
+  Lanes z[2] = {};   // past Butterworth outputs, newest first
+  Lanes sum = {};    // squares of the running block
+  std::vector<Lanes> fir;
 };
 
 // The numerator of the Yule-Walker filter over a span: fir[i] from in[i + 10] (the sample)
 // back to in[i] (ten samples earlier). It has no feedback, so it runs four samples at a
 // time; the sums are grouped exactly as in the plain loop, so both give the same bits.
-void FirPlain(const LoudnessFilter& f, const double* in, size_t from, size_t n, double* fir) {
-  const double* b = f.b;
-  for (size_t i = from; i < n; ++i) {
-    const double* x = in + i + 10;
-    fir[i] = ((x[0] * b[0] + x[-1] * b[1]) + (x[-2] * b[2] + x[-3] * b[3])) +
-             ((x[-4] * b[4] + x[-5] * b[5]) + (x[-6] * b[6] + x[-7] * b[7])) +
-             ((x[-8] * b[8] + x[-9] * b[9]) + x[-10] * b[10]);
-  }
+// `x` is the newest sample, and the one k samples earlier is at x[-k * stride].
+inline double FirAt(const double* b, const double* x, size_t stride) {
+  const auto at = [x, stride](size_t k) { return *(x - k * stride); };
+  return ((at(0) * b[0] + at(1) * b[1]) + (at(2) * b[2] + at(3) * b[3])) +
+         ((at(4) * b[4] + at(5) * b[5]) + (at(6) * b[6] + at(7) * b[7])) +
+         ((at(8) * b[8] + at(9) * b[9]) + at(10) * b[10]);
 }
 
 #if defined(__x86_64__)
 // AVX without FMA on purpose: a fused multiply-add rounds once where the plain loop
-// rounds twice, and the results must not depend on the processor.
-__attribute__((target("avx"))) size_t FirAvx(const LoudnessFilter& f, const double* in, size_t n, double* fir) {
+// rounds twice, and the results must not depend on the processor. `in` holds `lanes`
+// interleaved channels (1 or 2); a register takes four values of any lane alike.
+__attribute__((target("avx"))) size_t FirAvx(const LoudnessFilter& f, const double* in, size_t values, size_t lanes,
+                                             double* fir) {
   __m256d b[11];
   for (int k = 0; k < 11; ++k) b[k] = _mm256_set1_pd(f.b[k]);
   size_t i = 0;
-  for (; i + 4 <= n; i += 4) {
-    const double* x = in + i + 10;
+  for (; i + 4 <= values; i += 4) {
+    const double* x = in + i + 10 * lanes;
     __m256d t[11];
-    for (int k = 0; k < 11; ++k) t[k] = _mm256_mul_pd(_mm256_loadu_pd(x - k), b[k]);
+    for (int k = 0; k < 11; ++k) t[k] = _mm256_mul_pd(_mm256_loadu_pd(x - k * lanes), b[k]);
     const __m256d s0 = _mm256_add_pd(_mm256_add_pd(t[0], t[1]), _mm256_add_pd(t[2], t[3]));
     const __m256d s1 = _mm256_add_pd(_mm256_add_pd(t[4], t[5]), _mm256_add_pd(t[6], t[7]));
     const __m256d s2 = _mm256_add_pd(_mm256_add_pd(t[8], t[9]), t[10]);
@@ -203,51 +225,75 @@ __attribute__((target("avx"))) size_t FirAvx(const LoudnessFilter& f, const doub
   }
   return i;
 }
-#endif
 
-void Fir(const LoudnessFilter& f, const double* in, size_t n, double* fir) {
-  size_t done = 0;
-#if defined(__x86_64__)
+bool HaveAvx() {
   static const bool avx = __builtin_cpu_supports("avx");
-  if (avx) done = FirAvx(f, in, n, fir);
-#endif
-  FirPlain(f, in, done, n, fir);
+  return avx;
 }
+#endif
 
-// Runs `n` samples of one channel (every `stride`-th value of `in`) through the filter pair
-// and adds the squares of the output to the block sum. The feedback terms of the most
-// recent output are added last, so that the chain from one sample to the next is one
-// multiply and one subtraction long.
-void FilterSpan(const LoudnessFilter& f, ChannelMemory& m, const double* in, size_t stride, size_t n) {
-  m.input.resize(n + 10);
-  m.fir.resize(n);
-  double* xs = m.input.data();
-  for (int k = 0; k < 10; ++k) xs[k] = m.x[9 - k];
-  for (size_t i = 0; i < n; ++i) xs[10 + i] = in[i * stride];
-  Fir(f, xs, n, m.fir.data());
-  for (int k = 0; k < 10; ++k) m.x[k] = xs[9 + n - k];
-
+// The feedback part of both filters over a span, one output at a time. The feedback terms
+// of the most recent output are added last, so that the chain from one sample to the next
+// is one multiply and one subtraction long.
+template <typename T>
+__attribute__((always_inline)) inline void Recursion(const LoudnessFilter& f, const T* fir, size_t n, T y[10], T z[2],
+                                                     T& sum) {
   const double a1 = f.a[1], a2 = f.a[2], a3 = f.a[3], a4 = f.a[4], a5 = f.a[5], a6 = f.a[6], a7 = f.a[7],
                a8 = f.a[8], a9 = f.a[9], a10 = f.a[10];
   const double c0 = f.bb[0], c1 = f.bb[1], c2 = f.bb[2], d1 = f.ab[1], d2 = f.ab[2];
-  double y1 = m.y[0], y2 = m.y[1], y3 = m.y[2], y4 = m.y[3], y5 = m.y[4], y6 = m.y[5], y7 = m.y[6],
-         y8 = m.y[7], y9 = m.y[8], y10 = m.y[9];
-  double z1 = m.z[0], z2 = m.z[1];
-  double sum = m.sum;
-  const double* fir = m.fir.data();
+  T y1 = y[0], y2 = y[1], y3 = y[2], y4 = y[3], y5 = y[4], y6 = y[5], y7 = y[6], y8 = y[7], y9 = y[8], y10 = y[9];
+  T z1 = z[0], z2 = z[1];
+  T s = sum;
   for (size_t i = 0; i < n; ++i) {
-    const double back = ((y2 * a2 + y3 * a3) + (y4 * a4 + y5 * a5)) + ((y6 * a6 + y7 * a7) + (y8 * a8 + y9 * a9)) +
-                        y10 * a10;
-    const double y0 = (fir[i] - back) - y1 * a1;
-    const double z0 = (y0 * c0 + (y1 * c1 + y2 * c2 - z2 * d2)) - z1 * d1;
-    sum += z0 * z0;
+    const T back = ((y2 * a2 + y3 * a3) + (y4 * a4 + y5 * a5)) + ((y6 * a6 + y7 * a7) + (y8 * a8 + y9 * a9)) +
+                   y10 * a10;
+    const T y0 = (fir[i] - back) - y1 * a1;
+    const T z0 = (y0 * c0 + (y1 * c1 + y2 * c2 - z2 * d2)) - z1 * d1;
+    s += z0 * z0;
     y10 = y9; y9 = y8; y8 = y7; y7 = y6; y6 = y5; y5 = y4; y4 = y3; y3 = y2; y2 = y1; y1 = y0;
     z2 = z1; z1 = z0;
   }
-  m.y[0] = y1, m.y[1] = y2, m.y[2] = y3, m.y[3] = y4, m.y[4] = y5, m.y[5] = y6, m.y[6] = y7, m.y[7] = y8,
-  m.y[8] = y9, m.y[9] = y10;
-  m.z[0] = z1, m.z[1] = z2;
-  m.sum = sum;
+  y[0] = y1, y[1] = y2, y[2] = y3, y[3] = y4, y[4] = y5, y[5] = y6, y[6] = y7, y[7] = y8, y[8] = y9, y[9] = y10;
+  z[0] = z1, z[1] = z2;
+  sum = s;
+}
+
+void RecursionOne(const LoudnessFilter& f, const double* fir, size_t n, double y[10], double z[2], double& sum) {
+  Recursion(f, fir, n, y, z, sum);
+}
+
+void RecursionPairPlain(const LoudnessFilter& f, const Lanes* fir, size_t n, Lanes y[10], Lanes z[2], Lanes& sum) {
+  Recursion(f, fir, n, y, z, sum);
+}
+
+#if defined(__x86_64__)
+// The same loop with the 32 vector registers of AVX-512: the 28 values it keeps then stay
+// in registers instead of going to memory and back for every sample.
+__attribute__((target("avx512f,avx512vl"))) void RecursionPairWide(const LoudnessFilter& f, const Lanes* fir,
+                                                                   size_t n, Lanes y[10], Lanes z[2], Lanes& sum) {
+  Recursion(f, fir, n, y, z, sum);
+}
+#endif
+
+void RecursionPair(const LoudnessFilter& f, const Lanes* fir, size_t n, Lanes y[10], Lanes z[2], Lanes& sum) {
+#if defined(__x86_64__)
+  static const bool wide = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl");
+  if (wide) return RecursionPairWide(f, fir, n, y, z, sum);
+#endif
+  RecursionPairPlain(f, fir, n, y, z, sum);
+}
+
+// The numerator over the `n` frames of a batch that sit behind its kHistory frames of
+// past inputs (filled in here from the memory `x`, which then takes the batch's last ones).
+void Numerator(const LoudnessFilter& f, double* batch, size_t n, size_t lanes, double* x, double* fir) {
+  std::memcpy(batch, x, kHistory * lanes * sizeof(double));
+  const size_t values = n * lanes;
+  size_t done = 0;
+#if defined(__x86_64__)
+  if (HaveAvx()) done = FirAvx(f, batch, values, lanes, fir);
+#endif
+  for (size_t i = done; i < values; ++i) fir[i] = FirAt(f.b, batch + i + kHistory * lanes, lanes);
+  std::memcpy(x, batch + values, kHistory * lanes * sizeof(double));
 }
 
 // Histogram slot of a block: hundredths of a dB of its mean square, cut towards zero.
@@ -258,11 +304,11 @@ size_t Slot(double sum, uint32_t frames) {
   return size_t(val);
 }
 
-// Runs jobs on a second thread, one at a time: the right channel's filters while the
-// caller's thread runs the left one's.
-class ChannelThread {
+// Runs jobs on a second thread, one at a time: the filters of one batch while the caller
+// gathers the next.
+class FilterThread {
  public:
-  ~ChannelThread() {
+  ~FilterThread() {
     {
       std::lock_guard<std::mutex> lock(m_mutex);
       m_quit = true;
@@ -297,12 +343,15 @@ class ChannelThread {
     std::unique_lock<std::mutex> lock(m_mutex);
     for (;;) {
       m_cv.wait(lock, [this] { return m_pending || m_quit; });
-      if (m_quit) return;
-      lock.unlock();
-      m_job();
-      lock.lock();
-      m_pending = false;
-      m_cv.notify_all();
+      if (m_pending) {
+        lock.unlock();
+        m_job();
+        lock.lock();
+        m_pending = false;
+        m_cv.notify_all();
+        continue;
+      }
+      return;
     }
   }
 
@@ -317,10 +366,91 @@ class ChannelThread {
 }  // namespace
 
 struct ReplayGainAnalyser::Memory {
-  ChannelMemory ch[2];
-  std::vector<double> pending;  // interleaved frames not yet filtered
-  std::unique_ptr<ChannelThread> thread;
-  bool noThread = false;        // one core, or no thread could be started
+  const LoudnessFilter* filter = nullptr;
+  int channels = 0;
+  uint32_t blockLength = 0;
+  uint32_t blockFill = 0;        // frames in the running block
+  uint64_t framesFiltered = 0;
+  ChannelMemory mono;
+  PairMemory pair;
+  std::vector<uint32_t> histogram[2];
+  // Two batches: one being gathered, the other with the filter thread. Each holds room for
+  // kHistory frames in front of its kBatchFrames.
+  std::vector<double> batch[2];
+  int gathering = 0;
+  size_t gathered = 0;           // frames in the batch being gathered
+  bool ownThread = false;        // the filters may run on a thread of their own
+  std::unique_ptr<FilterThread> thread;  // last: it ends before the batches go
+
+  double SumOf(int c) const { return channels == 2 ? pair.sum[c] : mono.sum; }
+  void ClearSums() {
+    pair.sum = Lanes{};
+    mono.sum = 0;
+  }
+
+  // The filters over the `frames` frames of a batch, then the squares block by block.
+  void Analyse(double* batch, size_t frames) {
+    size_t at = 0;
+    if (channels == 2) {
+      pair.fir.resize(kBatchFrames);
+      Numerator(*filter, batch, frames, 2, reinterpret_cast<double*>(pair.x), reinterpret_cast<double*>(pair.fir.data()));
+    } else {
+      mono.fir.resize(kBatchFrames);
+      Numerator(*filter, batch, frames, 1, mono.x, mono.fir.data());
+    }
+    uint32_t fill = blockFill;
+    framesFiltered += frames;
+    while (frames > 0) {
+      const size_t span = std::min<size_t>(frames, blockLength - fill);
+      if (channels == 2)
+        RecursionPair(*filter, pair.fir.data() + at, span, pair.y, pair.z, pair.sum);
+      else
+        RecursionOne(*filter, mono.fir.data() + at, span, mono.y, mono.z, mono.sum);
+      at += span;
+      frames -= span;
+      fill += uint32_t(span);
+      if (fill == blockLength) {
+        for (int c = 0; c < channels; ++c) histogram[c][Slot(SumOf(c), fill)]++;
+        ClearSums();
+        fill = 0;
+      }
+    }
+    blockFill = fill;
+  }
+
+  // Hands the gathered batch to the filters: to the thread when there is one, which takes
+  // it while the next is gathered.
+  void Flush() {
+    if (gathered == 0) return;
+    if (!thread && ownThread) {
+      thread = std::make_unique<FilterThread>();
+      if (!thread->Start()) {
+        thread.reset();
+        ownThread = false;
+      }
+    }
+    if (!thread) {
+      Analyse(batch[gathering].data(), gathered);
+      gathered = 0;
+      return;
+    }
+    thread->Wait();
+    double* samples = batch[gathering].data();
+    const size_t frames = gathered;
+    thread->Post([this, samples, frames] { Analyse(samples, frames); });
+    gathering ^= 1;
+    gathered = 0;
+  }
+
+  // Room for `frames` more frames in the batch being gathered (at most what is free).
+  double* Room(size_t& frames) {
+    frames = std::min(frames, kBatchFrames - gathered);
+    return batch[gathering].data() + (kHistory + gathered) * size_t(channels);
+  }
+  void Gathered(size_t frames) {
+    gathered += frames;
+    if (gathered == kBatchFrames) Flush();
+  }
 };
 
 struct ReplayGainAnalyser::Resampler {
@@ -338,21 +468,23 @@ const LoudnessFilter* FindLoudnessFilter(int sampleRate) {
 uint32_t LoudnessBlockLength(int sampleRate) { return uint32_t(std::ceil(sampleRate * 0.05)); }
 
 ReplayGainAnalyser::ReplayGainAnalyser() = default;
-ReplayGainAnalyser::~ReplayGainAnalyser() = default;
+ReplayGainAnalyser::~ReplayGainAnalyser() {
+  if (m_state) m_state->thread.reset();
+}
 
 bool ReplayGainAnalyser::Init(int sampleRate, int channels, bool ownThread) {
+  if (m_state) m_state->thread.reset();
   m_resampler.reset();
   m_state.reset();
   m_channels = 0;
-  m_framesIn = m_framesFiltered = 0;
-  m_blockFill = 0;
+  m_framesIn = 0;
   m_finished = false;
   m_peak[0] = m_peak[1] = 0;
   if (sampleRate < kLowestRate || sampleRate > kHighestRate || channels < 1 || channels > 2) return false;
 
   int filterRate = sampleRate;
-  m_filter = FindLoudnessFilter(sampleRate);
-  if (!m_filter) {
+  const LoudnessFilter* filter = FindLoudnessFilter(sampleRate);
+  if (!filter) {
     // No table for this rate: the channels are resampled to 48 kHz and measured there.
     auto r = std::make_unique<Resampler>();
     AVChannelLayout layout;
@@ -363,23 +495,56 @@ bool ReplayGainAnalyser::Init(int sampleRate, int channels, bool ownThread) {
     if (rc < 0 || !r->swr || swr_init(r->swr) < 0) return false;
     m_resampler = std::move(r);
     filterRate = kResampleRate;
-    m_filter = FindLoudnessFilter(kResampleRate);
+    filter = FindLoudnessFilter(kResampleRate);
   }
-  m_blockLength = LoudnessBlockLength(filterRate);
   m_channels = channels;
   m_state = std::make_unique<Memory>();
-  for (int c = 0; c < channels; ++c) m_state->ch[c].histogram.assign(kHistogramBins, 0);
-  m_state->noThread = !ownThread || channels < 2 || std::thread::hardware_concurrency() < 2;
+  Memory& st = *m_state;
+  st.filter = filter;
+  st.channels = channels;
+  st.blockLength = LoudnessBlockLength(filterRate);
+  for (int c = 0; c < channels; ++c) st.histogram[c].assign(kHistogramBins, 0);
+  st.ownThread = ownThread && std::thread::hardware_concurrency() > 1;
+  st.batch[0].resize((kHistory + kBatchFrames) * size_t(channels));
+  if (st.ownThread) st.batch[1].resize((kHistory + kBatchFrames) * size_t(channels));
   return true;
 }
 
+namespace {
+
+// Largest magnitudes of the channels of interleaved frames.
+void TakePeaks(const double* s, size_t frames, int channels, double peak[2]) {
+#if defined(__x86_64__)
+  if (channels == 2) {
+    // A lane per channel. MAXPD keeps the running peak on a tie, as std::max does; there
+    // are no NaNs here (the scale takes them out).
+    const __m128d magnitude = _mm_castsi128_pd(_mm_set1_epi64x(0x7fffffffffffffff));
+    __m128d m = _mm_setr_pd(peak[0], peak[1]);
+    for (size_t i = 0; i < frames; ++i) m = _mm_max_pd(_mm_and_pd(_mm_loadu_pd(s + 2 * i), magnitude), m);
+    _mm_storel_pd(peak, m);
+    _mm_storeh_pd(peak + 1, m);
+    return;
+  }
+#endif
+  if (channels == 2) {
+    double l = peak[0], r = peak[1];
+    for (size_t i = 0; i < frames; ++i) {
+      l = std::max(l, std::fabs(s[2 * i]));
+      r = std::max(r, std::fabs(s[2 * i + 1]));
+    }
+    peak[0] = l, peak[1] = r;
+  } else {
+    double m = peak[0];
+    for (size_t i = 0; i < frames; ++i) m = std::max(m, std::fabs(s[i]));
+    peak[0] = m;
+  }
+}
+
+}  // namespace
+
 void ReplayGainAnalyser::Process(const double* samples, size_t frames) {
   if (!m_channels || m_finished || frames == 0) return;
-  for (int c = 0; c < m_channels; ++c) {
-    double peak = m_peak[c];
-    for (size_t i = 0; i < frames; ++i) peak = std::max(peak, std::fabs(samples[i * m_channels + c]));
-    m_peak[c] = peak;
-  }
+  TakePeaks(samples, frames, m_channels, m_peak);
   m_framesIn += frames;
   if (!m_resampler) {
     Gather(samples, frames);
@@ -395,74 +560,41 @@ void ReplayGainAnalyser::Process(const double* samples, size_t frames) {
   if (got > 0) Gather(r.out.data(), size_t(got));
 }
 
-void ReplayGainAnalyser::Gather(const double* samples, size_t frames) {
-  std::vector<double>& pending = m_state->pending;
-  if (pending.empty() && frames >= kBatchFrames) {
-    Analyse(samples, frames);
-    return;
-  }
-  pending.insert(pending.end(), samples, samples + frames * m_channels);
-  if (pending.size() >= kBatchFrames * m_channels) Flush();
-}
-
-void ReplayGainAnalyser::Flush() {
-  std::vector<double>& pending = m_state->pending;
-  if (pending.empty()) return;
-  Analyse(pending.data(), pending.size() / m_channels);
-  pending.clear();
-}
-
-void ReplayGainAnalyser::AnalyseChannel(int c, const double* samples, size_t frames) {
-  ChannelMemory& m = m_state->ch[c];
-  uint32_t fill = m_blockFill;
-  const double* in = samples + c;
+void ReplayGainAnalyser::ProcessPcm(const uint8_t* p, size_t frames, int channels, SampleKind kind) {
+  if (!m_channels || m_finished || frames == 0 || channels < m_channels) return;
+  const size_t frameBytes = size_t(channels) * SampleBytes(kind);
+  Memory& st = *m_state;
   while (frames > 0) {
-    const size_t span = std::min<size_t>(frames, m_blockLength - fill);
-    FilterSpan(*m_filter, m, in, size_t(m_channels), span);
-    in += span * m_channels;
-    frames -= span;
-    fill += uint32_t(span);
-    if (fill == m_blockLength) {
-      m.histogram[Slot(m.sum, fill)]++;
-      m.sum = 0;
-      fill = 0;
+    size_t n = frames;
+    if (m_resampler) {
+      // Through the resampler's input: a piece at a time.
+      n = std::min<size_t>(n, 4096);
+      m_scratch.resize(n * size_t(m_channels));
+      ToSixteenBitScale(p, n, channels, m_channels, kind, m_scratch.data());
+      Process(m_scratch.data(), n);
+    } else {
+      // Straight into the batch.
+      double* out = st.Room(n);
+      ToSixteenBitScale(p, n, channels, m_channels, kind, out);
+      TakePeaks(out, n, m_channels, m_peak);
+      m_framesIn += n;
+      st.Gathered(n);
     }
+    p += n * frameBytes;
+    frames -= n;
   }
 }
 
-void ReplayGainAnalyser::Analyse(const double* samples, size_t frames) {
+void ReplayGainAnalyser::Gather(const double* samples, size_t frames) {
   Memory& st = *m_state;
-  // The channels are independent: with two, the second runs on a thread of its own.
-  bool threaded = false;
-  if (m_channels == 2 && !st.noThread) {
-    if (!st.thread) {
-      st.thread = std::make_unique<ChannelThread>();
-      if (!st.thread->Start()) {
-        st.thread.reset();
-        st.noThread = true;
-      }
-    }
-    if (st.thread) {
-      st.thread->Post([this, samples, frames] { AnalyseChannel(1, samples, frames); });
-      threaded = true;
-    }
+  while (frames > 0) {
+    size_t n = frames;
+    double* out = st.Room(n);
+    std::memcpy(out, samples, n * size_t(m_channels) * sizeof(double));
+    samples += n * size_t(m_channels);
+    frames -= n;
+    st.Gathered(n);
   }
-  AnalyseChannel(0, samples, frames);
-  if (threaded)
-    st.thread->Wait();
-  else if (m_channels == 2)
-    AnalyseChannel(1, samples, frames);
-  m_blockFill = uint32_t((m_blockFill + frames) % m_blockLength);
-  m_framesFiltered += frames;
-}
-
-void ReplayGainAnalyser::EndBlock() {
-  Memory& st = *m_state;
-  for (int c = 0; c < m_channels; ++c) {
-    st.ch[c].histogram[Slot(st.ch[c].sum, m_blockFill)]++;
-    st.ch[c].sum = 0;
-  }
-  m_blockFill = 0;
 }
 
 void ReplayGainAnalyser::Finish() {
@@ -478,24 +610,31 @@ void ReplayGainAnalyser::Finish() {
       Gather(r.out.data(), size_t(got));
     }
   }
-  Flush();
-  m_state->thread.reset();
+  Memory& st = *m_state;
+  st.Flush();
+  st.thread.reset();
   // A sound shorter than one block is measured over what it has; otherwise the
   // incomplete last block is left out.
-  if (m_framesFiltered < m_blockLength && m_blockFill > 0) EndBlock();
+  if (st.framesFiltered < st.blockLength && st.blockFill > 0) {
+    for (int c = 0; c < m_channels; ++c) st.histogram[c][Slot(st.SumOf(c), st.blockFill)]++;
+    st.ClearSums();
+    st.blockFill = 0;
+  }
   m_finished = true;
 }
+
+bool ReplayGainAnalyser::Resampling() const { return m_resampler != nullptr; }
 
 uint64_t ReplayGainAnalyser::Blocks(int channel) const {
   if (!m_state || channel >= m_channels) return 0;
   uint64_t n = 0;
-  for (uint32_t v : m_state->ch[channel].histogram) n += v;
+  for (uint32_t v : m_state->histogram[channel]) n += v;
   return n;
 }
 
 double ReplayGainAnalyser::Gain(int channel) const {
   if (!m_state || channel >= m_channels) return kPinkReference;
-  const std::vector<uint32_t>& h = m_state->ch[channel].histogram;
+  const std::vector<uint32_t>& h = m_state->histogram[channel];
   uint64_t blocks = 0;
   for (uint32_t v : h) blocks += v;
   if (blocks == 0) return kPinkReference;

@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+#include "level/SampleScale.h"
+
 // Calibration: a pink noise reference at the 89 dB reference level reads this value.
 constexpr double kPinkReference = 64.82;
 
@@ -38,11 +40,14 @@ class ReplayGainAnalyser {
   ReplayGainAnalyser& operator=(const ReplayGainAnalyser&) = delete;
 
   // channels 1 or 2. False for a rate below 1 kHz or above 1.536 MHz, or when the
-  // resampler cannot start. `ownThread`: the second channel's filters may run on a thread
-  // of their own.
+  // resampler cannot start. `ownThread`: the filters may run on a second thread, one
+  // batch behind the caller (a caller that is itself a thread beside a decoder says no).
   bool Init(int sampleRate, int channels, bool ownThread = true);
   // `frames` frames of interleaved samples on the 16-bit scale.
   void Process(const double* samples, size_t frames);
+  // `frames` frames of `channels` interleaved samples of `kind` at `p`, of which the first
+  // Channels() are analysed: ToSixteenBitScale and Process in one step.
+  void ProcessPcm(const uint8_t* p, size_t frames, int channels, SampleKind kind);
   // Ends the analysis (drains the resampler, takes a lone partial block). Idempotent.
   void Finish();
 
@@ -50,7 +55,7 @@ class ReplayGainAnalyser {
   // Frames given to Process.
   uint64_t Frames() const { return m_framesIn; }
   // True when the rate has no filter table and the channels go through 48 kHz.
-  bool Resampling() const { return m_resampler != nullptr; }
+  bool Resampling() const;
   // After Finish: the gain g (64.82 minus the 95th-percentile block level) of a channel,
   // on the 16-bit scale.
   double Gain(int channel) const;
@@ -63,22 +68,15 @@ class ReplayGainAnalyser {
  private:
   struct Memory;
   struct Resampler;
-  // Frames on their way to the filters: gathered into batches, so that the second
-  // channel's thread gets work enough to be worth the hand-over.
+  // Frames on their way to the filters: gathered into batches, so that the filter thread
+  // gets work enough to be worth the hand-over.
   void Gather(const double* samples, size_t frames);
-  void Flush();
-  void Analyse(const double* samples, size_t frames);
-  void AnalyseChannel(int channel, const double* samples, size_t frames);
-  void EndBlock();
 
   int m_channels = 0;
-  const LoudnessFilter* m_filter = nullptr;
-  uint32_t m_blockLength = 0;
-  uint32_t m_blockFill = 0;  // frames in the running block
   uint64_t m_framesIn = 0;
-  uint64_t m_framesFiltered = 0;
   bool m_finished = false;
   double m_peak[2] = {0, 0};
+  std::vector<double> m_scratch;  // converted samples on their way to the resampler
   std::unique_ptr<Memory> m_state;
   std::unique_ptr<Resampler> m_resampler;
 };

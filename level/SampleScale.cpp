@@ -15,7 +15,31 @@ bool SampleKindOf(int bits, int formatTag, SampleKind& kind) {
 
 double FloatToSixteenBitScale(double v) { return (v == v ? std::clamp(v, -1e6, 1e6) : 0.0) * 32768.0; }
 
+namespace {
+
+// Every sample of every channel: one flat run of samples, which the compiler turns into
+// vector conversions.
+template <typename T, typename F>
+void Flat(const uint8_t* p, size_t samples, double* out, F scale) {
+  for (size_t i = 0; i < samples; ++i) {
+    T v;
+    std::memcpy(&v, p + sizeof(T) * i, sizeof(T));
+    out[i] = scale(v);
+  }
+}
+
+}  // namespace
+
 void ToSixteenBitScale(const uint8_t* p, size_t frames, int channels, int used, SampleKind kind, double* out) {
+  if (channels == used) {
+    const size_t n = frames * size_t(channels);
+    switch (kind) {
+      case SampleKind::S16: return Flat<int16_t>(p, n, out, [](int16_t v) { return double(v); });
+      case SampleKind::S32: return Flat<int32_t>(p, n, out, [](int32_t v) { return v * (1.0 / 65536.0); });
+      case SampleKind::F32: return Flat<float>(p, n, out, [](float v) { return FloatToSixteenBitScale(v); });
+      default: break;
+    }
+  }
   switch (kind) {
     case SampleKind::U8:
       for (size_t i = 0; i < frames; ++i, p += channels)

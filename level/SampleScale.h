@@ -11,6 +11,11 @@ enum class SampleKind { U8, S16, S24, S32, F32 };
 // other width.
 bool SampleKindOf(int bits, int formatTag, SampleKind& kind);
 
+// Bytes of one sample of a kind.
+inline size_t SampleBytes(SampleKind kind) {
+  return kind == SampleKind::U8 ? 1 : kind == SampleKind::S16 ? 2 : kind == SampleKind::S24 ? 3 : 4;
+}
+
 // A float sample (full scale +-1) on the 16-bit scale. NaN would poison the filter, and
 // nothing real lies beyond 120 dB over full scale.
 double FloatToSixteenBitScale(double v);

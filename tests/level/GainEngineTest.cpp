@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QMap>
 #include <QTextStream>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -168,6 +169,40 @@ TEST(ReplayGainAnalysis, ShortSoundSilenceAndUntabledRate) {
   EXPECT_NEAR(at50.gainLeft, at48.gainLeft, 0.05);
   EXPECT_NEAR(at50.gainRight, at48.gainRight, 0.05);
   EXPECT_GT(std::fabs(at48.gainLeft - at48.gainRight), 1.0);  // 1 kHz and 3 kHz weigh differently
+}
+
+// Both channels filtered side by side give each channel's own figures to the last bit,
+// however the samples arrive and on whichever thread the filters run.
+TEST(ReplayGainAnalysis, StereoLanesMatchEachChannelAlone) {
+  const size_t frames = 3 * 65536 + 777;
+  std::vector<double> stereo(2 * frames), left(frames), right(frames);
+  uint32_t r = 7;
+  for (size_t i = 0; i < frames; ++i) {
+    r = r * 1664525u + 1013904223u;
+    left[i] = 12000 * std::sin(i * 0.03) + double(int(r >> 20) - 2048);
+    right[i] = 3000 * std::sin(i * 0.4) * std::sin(i * 0.0007);
+    stereo[2 * i] = left[i], stereo[2 * i + 1] = right[i];
+  }
+  auto alone = [&](const std::vector<double>& x) {
+    ReplayGainAnalyser an;
+    EXPECT_TRUE(an.Init(44100, 1, false));
+    an.Process(x.data(), x.size());
+    an.Finish();
+    return an.Gain(0);
+  };
+  const double gl = alone(left), gr = alone(right);
+  EXPECT_GT(std::fabs(gl - gr), 1.0);
+  for (const bool thread : {false, true})
+    for (const size_t piece : {size_t(1) << 20, size_t(4093), size_t(1)}) {
+      SCOPED_TRACE(::testing::Message() << "thread " << thread << ", piece " << piece);
+      ReplayGainAnalyser an;
+      ASSERT_TRUE(an.Init(44100, 2, thread));
+      for (size_t at = 0; at < frames; at += piece) an.Process(stereo.data() + 2 * at, std::min(piece, frames - at));
+      an.Finish();
+      EXPECT_EQ(an.Gain(0), gl);
+      EXPECT_EQ(an.Gain(1), gr);
+      EXPECT_EQ(an.Blocks(1), frames / 2205);
+    }
 }
 
 TEST(GainEngineMp3, MatchesReferenceOfTheDecodedAudio) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -129,6 +130,9 @@ TEST_F(WindowFlowTest, EveryKindShowsTheCliFigures) {
         EXPECT_EQ(Shown(dlg, channels).join(" | ").toStdString(), Expected(cli, mode, db).join(" | ").toStdString())
             << t.prompt.texts().join('\n').toStdString();
         EXPECT_EQ(dlg.bar(1)->isVisibleTo(&dlg), channels == 2);
+        // The bar is wide enough for its text ("145.9 dB" on a loud 24-bit file).
+        QCoreApplication::processEvents();
+        EXPECT_GE(dlg.bar(0)->width(), QFontMetrics(dlg.bar(0)->font()).horizontalAdvance(dlg.bar(0)->Text()) + 5);
         EXPECT_EQ(dlg.label(kIdLeftCaption)->text(), channels == 2 ? "Left Channel" : "Mono Channel");
         // The scale label stands only in the average test on the percent scale.
         EXPECT_EQ(dlg.label(kIdScaleLabel)->isVisibleTo(&dlg), mode == 1 && !db);
