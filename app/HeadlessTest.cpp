@@ -226,7 +226,10 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   // The stop sequence: nothing of the file stays open, the user must open it again.
   auto stopAndDrop = [&s, &stop]() {
     ClearFileDisplay(s);
+    s.m_savedTitle.clear();  // the title goes back to the program's own, not the file's
     CloseWorkFile(s);
+    // Nothing will name the work file again once its path is dropped, so it goes now.
+    if (!g_workPath.isEmpty() && g_workPath != g_sourcePath) DeleteWorkFile(g_workPath);
     ClearSessionPaths();
     return stop();
   };
@@ -250,6 +253,13 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
   // A FLAC file whose decoder reported errors is not tested, whether or not the log knows it.
   if (s.m_sourceKind == kKindFlac && ShowFlacError(s, s.m_fileName)) return stop();
 
+  // A work file without sound data ends the test of either kind before it measures: the
+  // user answered the question (Yes opens another file), and the file is let go.
+  if (s.m_sourceKind != kKindMp3 && CheckWorkFileData(s) != 0) {
+    s.StopTest();
+    return s.m_openDialogPending ? stop() : stopAndDrop();
+  }
+
   const QString key = g_sourcePath;
   const int mode = s.m_testMode;
   s.m_result = LevelResult{};
@@ -257,13 +267,22 @@ int RunTestOnOpenFile(Session& s, bool& fromLog) {
     s.SetProgress(100);
   } else {
     s.m_cancelSeen = 0;
-    if (!MeasureWorkFile(s, mode)) {
+    const int gain = mode == 0 ? kGainOk : MeasureAverage(s);
+    if (mode == 0 ? ScanPeakLevels(s) != 0 : gain != kGainOk) {
       // The scanner stops alike for a cancel and for a file it cannot read; only the
-      // latter is worth a word.
+      // latter is worth a word. The gain engine tells them apart: a file it cannot
+      // analyse is let go, with the word the batch has for it, so the reset display is
+      // not left unexplained.
       if (mode == 0 && !s.m_cancelSeen && !s.m_exitRequested)
         s.m_prompt.Message(Tonvane::tr("Sorry, the test is stopped because the file has errors."));
+      if (gain == kGainCannotAnalyse) {
+        s.m_prompt.Message(Tonvane::tr("Sorry, but the test of the file ") + s.m_fileName +
+                           Tonvane::tr(" was not possible to fulfill."));
+        return stopAndDrop();
+      }
       return stop();
     }
+    if (mode == 0) PeakToResult(s);
     StoreInLog(s, key, mode);
     s.SetProgress(100);
   }

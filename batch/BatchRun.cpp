@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cmath>
 #include <condition_variable>
+#include <deque>
+#include <functional>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -49,6 +51,81 @@ struct Job {
 struct Slot {
   bool done = false;
   BatchMeasureResult result;
+};
+
+// The log's records of a run, written on a thread of their own in list order: each record
+// is synced to the disk twice, which would otherwise hold the window's thread for tens of
+// milliseconds a file. The log is this thread's alone from the first record to Finish.
+class LogCommits {
+ public:
+  LogCommits(TestLog& log, Session& s) : m_log(log), m_s(s), m_thread([this] { Work(); }) {}
+  ~LogCommits() { Finish({}); }
+  void Push(const QString& path, int kind, LogTest group, const LevelResult& result) {
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_queue.push_back({path, kind, group, result});
+    }
+    m_wake.notify_one();
+  }
+  // Writes what is queued and ends the thread; `pump` keeps the front end alive meanwhile
+  // (a failed write asks the window to show its message).
+  void Finish(const std::function<void()>& pump) {
+    if (!m_thread.joinable()) return;
+    {
+      std::lock_guard<std::mutex> lock(m_mutex);
+      m_finishing = true;
+    }
+    m_wake.notify_one();
+    for (;;) {
+      std::unique_lock<std::mutex> lock(m_mutex);
+      if (m_wake.wait_for(lock, std::chrono::milliseconds(16), [this] { return m_idle; })) break;
+      lock.unlock();
+      if (pump) pump();
+    }
+    m_thread.join();
+  }
+
+ private:
+  struct Entry {
+    QString path;
+    int kind;
+    LogTest group;
+    LevelResult result;
+  };
+  void Work() {
+    for (;;) {
+      Entry e;
+      {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_wake.wait(lock, [this] { return !m_queue.empty() || m_finishing; });
+        if (m_queue.empty()) {
+          m_idle = true;
+          m_wake.notify_all();
+          return;
+        }
+        e = std::move(m_queue.front());
+        m_queue.pop_front();
+      }
+      // The log tells MP3 rows by the session's kind, which the run set for its first row;
+      // it changes here only in a list that mixes MP3 rows with others.
+      if ((m_s.m_sourceKind == kKindMp3) != (e.kind == kKindMp3)) m_s.m_sourceKind = e.kind;
+      const RowState state = m_log.FindRow(e.path);
+      if (state == RowState::Fresh) {
+        LevelResult carried;
+        m_log.ReadResult(e.group, carried);  // the other groups stay in the record
+      }
+      m_log.WriteRow(e.path, e.group, state, e.result);
+    }
+  }
+
+  TestLog& m_log;
+  Session& m_s;
+  std::mutex m_mutex;
+  std::condition_variable m_wake;
+  std::deque<Entry> m_queue;
+  bool m_finishing = false;
+  bool m_idle = false;
+  std::thread m_thread;
 };
 
 // Sets a session flag for the life of the run.
@@ -165,6 +242,12 @@ BatchRunSummary BatchRunner::Run() {
     lengthsKnown = lengthsKnown && j.durationMs > 0;
   }
 
+  std::unique_ptr<LogCommits> commits;
+  if (log) {
+    if (!jobs.empty()) m_s.m_sourceKind = jobs.front().kind;
+    commits = std::make_unique<LogCommits>(*log, m_s);
+  }
+
   BatchEstimate estimate;
   estimate.Start(start, lengthsKnown ? missMs : missBytes);
   for (size_t i : misses) jobs[i].work = lengthsKnown ? jobs[i].durationMs : jobs[i].size;
@@ -253,16 +336,7 @@ BatchRunSummary BatchRunner::Run() {
           m_list.SetDuration(j.row, r.durationMs);
           j.durationMs = r.durationMs;
         }
-        if (log) {
-          m_s.m_sourceKind = j.kind;
-          const LogTest group = GroupOf(j.kind, j.testMode, showDb);
-          const RowState state = log->FindRow(j.path);
-          if (state == RowState::Fresh) {
-            LevelResult carried;
-            log->ReadResult(group, carried);  // the other groups stay in the record
-          }
-          log->WriteRow(j.path, group, state, r.result);
-        }
+        if (commits) commits->Push(j.path, j.kind, GroupOf(j.kind, j.testMode, showDb), r.result);
       } else {
         out.state = BatchRowOutcome::Failed;
         out.error = r.error;
@@ -293,6 +367,8 @@ BatchRunSummary BatchRunner::Run() {
   if (summary.cancelled) m_control.Cancel();  // workers stop at their next poll
   for (std::thread& t : workers) t.join();
   m_control.pauseChanged = nullptr;
+  if (commits) commits->Finish(m_control.processEvents);
+  commits.reset();
   if (log) log->CloseLog();
   summary.wallSeconds = clock.Now() - start;
   if (summary.cancelled)

@@ -29,7 +29,17 @@ int OpenMp4(Session& s) {
   s.m_propertyLines[0] = Tonvane::tr("  Bit Rate               ") + QString::number((int64_t(bitRate) + 500) / 1000) + Tonvane::tr(" kbps");
   s.m_propertyLines[1] = Tonvane::tr("  Channels            ") + QString::number(channels);
   s.m_propertyLines[2] = Tonvane::tr("  Sample Rate       ") + QString::number(sampleRate) + Tonvane::tr(" Hz");
-  if (durationMs == 0) return 0;
+  // The prober has spoken for a file it could not read or found damaged. Anything else it
+  // cannot take (no audio track first, a codec other than AAC LC and ALAC, ADIF without a
+  // bit rate) is not refused without a word either.
+  auto unsupported = [&s, type] {
+    if (type != AACFile::kTypeUnreadable && type != AACFile::kTypeDamaged)
+      s.m_prompt.Message(Tonvane::tr("Sorry, but ") + Tonvane::tr("the file ") + s.m_fileName +
+                             Tonvane::tr(" has unsupported by the program a format of sound data."),
+                         PromptIcon::Error);
+    return 0;
+  };
+  if (durationMs == 0) return unsupported();
 
   if (type == AACFile::kTypeAac) {
     s.m_propertyLines[3] = mpegVersion == 0 ? Tonvane::tr("  Audio Format      MPEG-4 AAC LC") : Tonvane::tr("  Audio Format      MPEG-2 AAC");
@@ -39,7 +49,7 @@ int OpenMp4(Session& s) {
     s.m_propertyLines[3] = Tonvane::tr("  Audio Format      MPEG-4 ALAC");
     s.m_sourceKind = kKindAlac;
   } else {
-    return 0;
+    return unsupported();
   }
   s.m_channels = channels;
   s.m_sampleRate = sampleRate;

@@ -126,6 +126,7 @@ int OpenPath(Session& s, const QString& path, int ask, int savedBits) {
   if (s.m_driveType != kDriveCdRom) s.m_fileNameShown = WorkPathFor(s.m_fileNameShown, s.m_driveType);
   g_workPath = s.m_fileNameShown.contains('/') ? s.m_fileNameShown
                                                : WorkPathFor(s.m_fileNameCopy, s.m_driveType);
+  if (s.m_driveType != kDriveCdRom) s.m_fileNameShown = g_workPath = WritableWorkPath(g_workPath);
   g_sourcePath = path;
 
   if (s.m_sourceKind != kKindMp3) {

@@ -1,7 +1,9 @@
 #include "formats/WorkFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
 #include <atomic>
@@ -77,6 +79,14 @@ QString WorkPathFor(const QString& source, int driveType) {
   int dot = source.lastIndexOf('.');
   if (dot > slash) return source.left(dot) + ".tmp";
   return source + ".tmp";
+}
+
+QString WritableWorkPath(const QString& beside) {
+  const QFileInfo at(beside);
+  if (::access(QFile::encodeName(at.absolutePath()).constData(), W_OK) == 0) return beside;
+  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/tonvane/work";
+  QDir().mkpath(cache);
+  return cache + '/' + at.fileName();
 }
 
 int DriveTypeOf(const QString& path) {
@@ -426,6 +436,21 @@ bool FindDataChunk(const uint8_t* view, uint64_t viewSize, uint64_t limit, uint3
 }
 
 MappedFile::~MappedFile() { Close(); }
+
+QByteArray MappedFile::ReadHead(uint64_t length) {
+  QByteArray out;
+  if (m_fd < 0) return out;
+  out.resize(qsizetype(length));
+  uint64_t have = 0;
+  while (have < length) {
+    const ssize_t n = ::pread(m_fd, out.data() + have, size_t(length - have), off_t(have));
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) break;
+    have += uint64_t(n);
+  }
+  out.resize(qsizetype(have));
+  return out;
+}
 
 bool MappedFile::Open(const QString& path) {
   Close();

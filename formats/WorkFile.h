@@ -18,6 +18,11 @@ constexpr uint32_t kMaxWorkDataSize = 0xFFFFFF00u;
 // name, or ".tmp" added). On an optical or read-only mount the source itself.
 QString WorkPathFor(const QString& source, int driveType);
 
+// Where the work file of `beside` (a WorkPathFor path) really goes: beside the source, or,
+// when that folder cannot be written (another user's folder), under the same name in
+// $XDG_CACHE_HOME/tonvane/work/, which is made when missing.
+QString WritableWorkPath(const QString& beside);
+
 // 5 for a path on an iso9660 or udf mount, or on a mount that is read-only; else 3.
 int DriveTypeOf(const QString& path);
 
@@ -136,6 +141,9 @@ class MappedFile {
   const uint8_t* Map(uint64_t offset, uint64_t length);
   void Unmap();
   void Close();
+  // Up to `length` bytes from the file's start, read rather than mapped (fewer on a short
+  // read or an error).
+  QByteArray ReadHead(uint64_t length);
 
   uint64_t Size() const { return m_size; }
   const uint8_t* View() const { return m_view; }

@@ -432,6 +432,23 @@ void WriteLevels(Session& s, const PeakExtremes& x, int bits, bool stereo) {
 
 }  // namespace
 
+int CheckWorkFileData(Session& s) {
+  MappedFile file;
+  if (g_workPath.isEmpty()) return 0;
+  if (!file.Open(g_workPath)) {
+    // Gone or unreadable since the open (removed by hand, a cleaner): said as the scan says it.
+    ReportFileError(s, Tonvane::tr(" open a temporary copy of the file "), s.m_fileName,
+                    Tonvane::tr("Therefore the test will be stopped."), ErrorCodeFromErrno(file.LastErrno(), g_workPath),
+                    true);
+    return 1;
+  }
+  if (file.Size() == 0) return 1;
+  if (s.m_dataSize != 0) return 0;
+  if (s.m_allocGranularity == 0) s.m_allocGranularity = kAllocGranularity;
+  const bool windowed = file.Size() > uint64_t(s.m_allocGranularity) * 1600;
+  return FindSoundData(s, file, windowed) ? 0 : 1;
+}
+
 int ScanPeakLevels(Session& s) {
   const QString path = g_workPath;
   MappedFile file;

@@ -15,6 +15,12 @@ struct Session;
 // the caller then closes the work file and drops the partial values.
 int ScanPeakLevels(Session& s);
 
+// The set-up that both tests make on a PCM work file before they measure. 0: there is sound
+// data to measure. 1: the work file cannot be opened (reported), is empty (nothing is said)
+// or has no data chunk (after the question; Yes sets m_openDialogPending). The caller then
+// stops the test and lets the file go.
+int CheckWorkFileData(Session& s);
+
 // The text of the question for a work file without a data chunk.
 QString NoSoundDataQuestion(const QString& fileName);
 

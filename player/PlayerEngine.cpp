@@ -290,15 +290,8 @@ void PlayerEngine::ToggleMute() {
   Changed();
 }
 
-void PlayerEngine::VolumeUp() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p < 90 ? p + 10 : 100);
-}
-
-void PlayerEngine::VolumeDown() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p > 10 ? p - 10 : 0);
-}
+void PlayerEngine::VolumeUp() { OnVolumeSlider(SteppedVolume(m_view.volumePos, true)); }
+void PlayerEngine::VolumeDown() { OnVolumeSlider(SteppedVolume(m_view.volumePos, false)); }
 
 void PlayerEngine::OnVolumeSlider(int pos) {
   pos = std::clamp(pos, 0, 100);

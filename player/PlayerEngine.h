@@ -43,6 +43,9 @@ QString PlayerTipHtml(int tip);
 // The plain name of a tool-tip (its heading), for accessible names.
 QString PlayerTipName(int tip);
 
+// The volume commands' step: ten up or down, within 0 to 100.
+inline int SteppedVolume(int pos, bool up) { return up ? (pos < 90 ? pos + 10 : 100) : (pos > 10 ? pos - 10 : 0); }
+
 // What the transport shows.
 struct PlayerView {
   bool pauseFace = false;  // the Play button shows Pause (tool-tip 384), else Play (326)

@@ -39,7 +39,8 @@ bool PlaysSource(const BatchFileInfo& info) {
 
 QString PreviewWorkPathFor(const QString& source) {
   const QString beside = WorkPathFor(source, 3);
-  if (QFileInfo(QFileInfo(beside).absolutePath()).isWritable()) return beside;
+  const QString folder = QFileInfo(beside).absolutePath();
+  if (DriveTypeOf(folder) != kDriveCdRom && QFileInfo(folder).isWritable()) return beside;
   const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/tonvane/work";
   QDir().mkpath(cache);
   return cache + '/' + QFileInfo(beside).fileName();
@@ -303,15 +304,8 @@ void PreviewPlayer::ClearPreview() {
   Changed();
 }
 
-void PreviewPlayer::VolumeUp() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p < 90 ? p + 10 : 100);
-}
-
-void PreviewPlayer::VolumeDown() {
-  const int p = m_view.volumePos;
-  OnVolumeSlider(p > 10 ? p - 10 : 0);
-}
+void PreviewPlayer::VolumeUp() { OnVolumeSlider(SteppedVolume(m_view.volumePos, true)); }
+void PreviewPlayer::VolumeDown() { OnVolumeSlider(SteppedVolume(m_view.volumePos, false)); }
 
 void PreviewPlayer::OnVolumeSlider(int pos) {
   pos = std::clamp(pos, 0, 100);

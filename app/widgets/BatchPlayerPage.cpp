@@ -70,7 +70,8 @@ CBatchPlayerPage::CBatchPlayerPage(Session& s, BatchList& list, CBatchListView& 
   m_position[0]->setObjectName("previewMinutes");
   m_position[1]->setObjectName("previewSeconds");
   row->addWidget(m_position[0]);
-  row->addWidget(new QLabel(QStringLiteral(":"), this));
+  m_colon = new QLabel(QStringLiteral(":"), this);
+  row->addWidget(m_colon);
   row->addWidget(m_position[1]);
   m_volume = new VolumeSlider(this);
   m_volume->setObjectName("previewVolume");
@@ -157,4 +158,6 @@ void CBatchPlayerPage::Render() {
   }
   for (int i = 0; i < 2; ++i)
     if (m_position[i]->text() != v.position[i]) m_position[i]->setText(v.position[i]);
+  // A stopped preview shows no position at all, not a lone colon.
+  m_colon->setText(v.position[0].isEmpty() ? QString() : QStringLiteral(":"));
 }

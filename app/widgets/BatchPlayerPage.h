@@ -51,4 +51,5 @@ class CBatchPlayerPage : public QWidget, private IPlayerTimers, private IPreview
   QToolButton* m_previous = nullptr;
   VolumeSlider* m_volume = nullptr;
   QLabel* m_position[2] = {};
+  QLabel* m_colon = nullptr;
 };

@@ -101,6 +101,12 @@ CBatchProgress::CBatchProgress(BatchList& list, Session& s, const BatchRunOption
     m_countdown.Tick();
     ShowCountdown();
   });
+  m_nameTimer = new QTimer(this);
+  m_nameTimer->setInterval(100);
+  m_nameTimer->setSingleShot(true);
+  connect(m_nameTimer, &QTimer::timeout, this, [this] {
+    if (m_running) ShowFileName();
+  });
   m_blinkTimer = new QTimer(this);
   m_blinkTimer->setInterval(500);
   connect(m_blinkTimer, &QTimer::timeout, this, [this] {
@@ -154,9 +160,19 @@ void CBatchProgress::Count(int files) {
 }
 
 void CBatchProgress::FileStarted(int, const QString& path) {
-  m_fileName->setText(m_fileName->fontMetrics().elidedText(path, Qt::ElideMiddle, m_fileName->width()));
-  m_fileName->setToolTip(path);
-  m_fileName->setAccessibleName(path);
+  // Laying out a name costs milliseconds (more with colour emoji); nobody reads a hundred
+  // names a second, so the label takes the latest one every 100 ms.
+  m_nextName = path;
+  if (m_nameTimer->isActive()) return;
+  ShowFileName();
+  m_nameTimer->start();
+}
+
+void CBatchProgress::ShowFileName() {
+  if (m_fileName->accessibleName() == m_nextName) return;
+  m_fileName->setText(m_fileName->fontMetrics().elidedText(m_nextName, Qt::ElideMiddle, m_fileName->width()));
+  m_fileName->setToolTip(m_nextName);
+  m_fileName->setAccessibleName(m_nextName);
 }
 
 void CBatchProgress::Progress(int percent) {

@@ -57,6 +57,7 @@ class CBatchProgress : public QDialog, public IBatchRunView {
   void reject() override;
 
  private:
+  void ShowFileName();
   void StartRun();
   void OnPause();
   void OnCancel();
@@ -79,6 +80,8 @@ class CBatchProgress : public QDialog, public IBatchRunView {
   BatchCountdown m_countdown;
   QTimer* m_countdownTimer = nullptr;
   QTimer* m_blinkTimer = nullptr;
+  QTimer* m_nameTimer = nullptr;  // the file name follows the run at most ten times a second
+  QString m_nextName;
 
   QLabel* m_fileCaption = nullptr;
   QLabel* m_fileName = nullptr;

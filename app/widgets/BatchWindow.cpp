@@ -89,6 +89,36 @@ QStringList ChooseFilesWithHistory(QWidget* parent, const QString& title, const 
   return files;
 }
 
+// The keys of the pages at the window's foot: Up and Down walk through the page's controls
+// that take the focus (a radio is not checked by it), and Escape stays on the page rather
+// than closing the window.
+class PageKeys : public QObject {
+ public:
+  explicit PageKeys(QWidget* page) : QObject(page), m_page(page) {
+    for (QWidget* w : page->findChildren<QWidget*>())
+      if (w->focusPolicy() & Qt::TabFocus) w->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* e) override {
+    if (e->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(e)->key();
+    if (key == Qt::Key_Escape) return true;
+    if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+    QList<QWidget*> walk;
+    for (QWidget* w : m_page->findChildren<QWidget*>())
+      if ((w->focusPolicy() & Qt::TabFocus) && w->isVisible() && w->isEnabled()) walk << w;
+    const int at = int(walk.indexOf(static_cast<QWidget*>(watched)));
+    if (at < 0) return false;
+    const int n = int(walk.size());
+    walk[(at + (key == Qt::Key_Down ? 1 : n - 1)) % n]->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+
+ private:
+  QWidget* m_page;
+};
+
 }  // namespace
 
 CBatch::CBatch(Session& s, int batchKind, QWidget* parent)
@@ -369,6 +399,8 @@ void CBatch::BuildPages() {
 
   m_player = new CBatchPlayerPage(m_s, *m_list, *m_view, m_tabs);
   m_tabs->addTab(m_player, Tonvane::tr("Player"));
+  new PageKeys(testPage);
+  new PageKeys(m_player);
   PreviewPlayer& preview = m_player->preview();
   connect(action(kBatchPlayPause), &QAction::triggered, this, [&preview] { preview.PlayPause(); });
   connect(action(kBatchStop), &QAction::triggered, this, [&preview] { preview.Stop(); });
@@ -431,7 +463,9 @@ void CBatch::FillAtOpening() {
 }
 
 void CBatch::PumpThrottled() {
-  if (!m_sincePump.isValid() || m_sincePump.elapsed() >= 8) {
+  // Each pump repaints the growing list; every 25 ms keeps the window lively and leaves
+  // the fill most of its time.
+  if (!m_sincePump.isValid() || m_sincePump.elapsed() >= 25) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     m_sincePump.restart();
   }

@@ -189,6 +189,7 @@ void CBrenlowv10Dlg::BuildMenus() {
   AddCommand(help, kCmdAbout, Tonvane::tr("&About Tonvane..."));
   connect(action(kCmdHelp), &QAction::triggered, shell, &ShellMenus::OnHelp);
   connect(action(kCmdAbout), &QAction::triggered, shell, &ShellMenus::OnAbout);
+  connect(action(kCmdHomepage), &QAction::triggered, shell, &ShellMenus::OnHomepage);
 
   // Ctrl+X still asks to leave while a test runs, when the Exit item is grey.
   m_exitDuringTest = new QShortcut(QKeySequence("Ctrl+X"), this);
@@ -503,8 +504,14 @@ void CBrenlowv10Dlg::ConnectCommands() {
   });
 
   connect(m_testButton, &QPushButton::clicked, this, &CBrenlowv10Dlg::OnTest);
-  connect(m_peakRadio, &QRadioButton::clicked, this, [this] { SetTestMode(0); });
-  connect(m_averageRadio, &QRadioButton::clicked, this, [this] { SetTestMode(1); });
+  // Toggled rather than clicked: a screen reader toggles a radio without clicking it. The
+  // window's own setChecked from the session finds the mode already set and does nothing.
+  connect(m_peakRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(0);
+  });
+  connect(m_averageRadio, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetTestMode(1);
+  });
   // A choice in the list opens that entry, then the focus goes back to the window.
   connect(m_fileCombo, &QComboBox::activated, this, [this](int) {
     OpenByName(QString());
@@ -545,7 +552,9 @@ void CBrenlowv10Dlg::ClearBars() {
 }
 
 void CBrenlowv10Dlg::ApplyDisplayRules() {
-  const bool stereo = ShowsStereo(m_s);
+  // With no file open the window keeps the layout it starts with, whatever a refused
+  // file's header said.
+  const bool stereo = g_workPath.isEmpty() || ShowsStereo(m_s);
   const DisplayRules r = RulesFor(m_s.m_testMode, m_s.m_showDb != 0, stereo, m_s.m_bits, m_s.m_sourceKind == kKindMp3);
   for (int i = 0; i < 2; ++i) {
     m_maxLabels[size_t(i)]->setText(r.maxLabelText);
@@ -654,7 +663,7 @@ void CBrenlowv10Dlg::timerEvent(QTimerEvent* e) {
   if (g_copyFinished.exchange(0)) {
     ClearFileDisplay(m_s);
     RenderSession();
-    ApplyDisplayRules();
+    ClearListSelection();
   }
 }
 
@@ -692,6 +701,8 @@ QString CBrenlowv10Dlg::ChooseFile() {
                      m_s.m_fileName.isEmpty() ? QString() : QFileInfo(m_s.m_fileName).absolutePath());
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(names);
+  // The captions name their patterns already; Qt would add them a second time.
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.selectNameFilter(names.value(qBound(1, Settings::NumberFilter(), int(names.size())) - 1));
   // The chosen type is remembered at once.
   connect(&dialog, &QFileDialog::filterSelected, this, [names](const QString& f) {
@@ -714,7 +725,7 @@ bool CBrenlowv10Dlg::OpenedBy(const std::function<bool()>& call) {
     AfterOpen();
   } else {
     RenderSession();
-    if (g_workPath.isEmpty()) ApplyDisplayRules();
+    if (g_workPath.isEmpty()) ClearListSelection();
   }
   return opened;
 }
@@ -804,6 +815,13 @@ int CBrenlowv10Dlg::OpenByName(const QString& path) {
     m_fileCombo->removeItem(sel);
   }
   return opened ? 1 : 0;
+}
+
+// With no file open the list keeps its entries and selects none.
+void CBrenlowv10Dlg::ClearListSelection() {
+  ApplyDisplayRules();
+  QSignalBlocker block(m_fileCombo);
+  m_fileCombo->setCurrentIndex(-1);
 }
 
 void CBrenlowv10Dlg::ShowDuration() {

@@ -150,6 +150,7 @@ class CBrenlowv10Dlg : public QMainWindow {
   void AfterOpen();
   bool OpenedBy(const std::function<bool()>& call);
   void FillList();
+  void ClearListSelection();
   void ShowDuration();
   void ClearTimeLabels();
   void HideFinishedProgress();

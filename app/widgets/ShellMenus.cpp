@@ -12,6 +12,7 @@
 #include <QStyleFactory>
 #include <QUrl>
 
+#include "app/AboutInfo.h"
 #include "app/Languages.h"
 #include "app/Text.h"
 #include "app/Themes.h"
@@ -82,6 +83,13 @@ void ShellMenus::OnHelp() {
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(page)))
     QMessageBox::warning(m_window, tonvane::kAppTitle,
                          Tonvane::tr("Sorry, but the help page %1 cannot be opened.").arg(page));
+}
+
+void ShellMenus::OnHomepage() {
+  const QString page = QString::fromLatin1(tonvane::kHomePage);
+  if (!QDesktopServices::openUrl(QUrl(page)))
+    QMessageBox::warning(m_window, tonvane::kAppTitle,
+                         Tonvane::tr("Sorry, but the home page %1 cannot be opened.").arg(page));
 }
 
 void ShellMenus::OnAbout() {

@@ -25,6 +25,8 @@ class ShellMenus : public QObject {
   void OnHelp();
   // The modal about box.
   void OnAbout();
+  // The product's home page in the desktop's browser; a box when none can take it.
+  void OnHomepage();
 
   // Stores a language for the next start and says so; the interface stays as it is.
   void ChooseLanguage(const QString& code);

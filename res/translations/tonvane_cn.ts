@@ -1627,5 +1627,9 @@ Do You want to open a dialog of selection a file?</source>
         <source>Mono Channel: </source>
         <translation>单声道： </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>抱歉，无法打开主页 %1。</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Do You want to open a dialog of selection a file?</source>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Nažalost, početna stranica %1 ne može se otvoriti.</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Chcete vybrat soubor?</translation>
         <source>Mono Channel: </source>
         <translation>Mono kanál: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Bohužel, domovskou stránku %1 nelze otevřít.</translation>
+    </message>
 </context>
 </TS>

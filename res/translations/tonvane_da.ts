@@ -1627,5 +1627,9 @@ Vil du vælge en fil?</translation>
         <source>Mono Channel: </source>
         <translation>Monokanal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Beklager, hjemmesiden %1 kan ikke åbnes.</translation>
+    </message>
 </context>
 </TS>

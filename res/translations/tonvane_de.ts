@@ -1627,5 +1627,9 @@ Möchten Sie eine Datei auswählen?</translation>
         <source>Mono Channel: </source>
         <translation>Mono-Kanal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Leider kann die Homepage %1 nicht geöffnet werden.</translation>
+    </message>
 </context>
 </TS>

@@ -109,6 +109,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source> was not possible to fulfill.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Russian</source>
         <translation type="unfinished"></translation>
     </message>
@@ -821,6 +825,10 @@ Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Error initializing decoder library faad. </source>
         <translation type="unfinished"></translation>
     </message>
@@ -1031,10 +1039,6 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>100% = 89 dB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> was not possible to fulfill.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

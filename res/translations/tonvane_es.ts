@@ -1627,5 +1627,9 @@ Do You want to open a dialog of selection a file?</source>
         <source>Mono Channel: </source>
         <translation>Canal mono: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Lo sentimos, no se puede abrir la página de inicio %1.</translation>
+    </message>
 </context>
 </TS>

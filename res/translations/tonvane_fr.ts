@@ -1627,5 +1627,9 @@ Voulez-vous choisir un fichier ?</translation>
         <source>Mono Channel: </source>
         <translation>Canal mono : </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Désolé, la page d&apos;accueil %1 ne peut pas être ouverte.</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Scegliere un file?</translation>
         <source>Mono Channel: </source>
         <translation>Canale mono: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Spiacenti, impossibile aprire la home page %1.</translation>
+    </message>
 </context>
 </TS>

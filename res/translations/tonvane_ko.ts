@@ -1627,5 +1627,9 @@ Do You want to open a dialog of selection a file?</source>
         <source>Mono Channel: </source>
         <translation>모노 채널: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>죄송합니다. 홈페이지 %1을(를) 열 수 없습니다.</translation>
+    </message>
 </context>
 </TS>

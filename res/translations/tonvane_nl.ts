@@ -1627,5 +1627,9 @@ Wilt u een bestand kiezen?</translation>
         <source>Mono Channel: </source>
         <translation>Monokanaal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Helaas kan de homepage %1 niet worden geopend.</translation>
+    </message>
 </context>
 </TS>

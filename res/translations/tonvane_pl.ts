@@ -1627,5 +1627,9 @@ Czy chcesz wybrać plik?</translation>
         <source>Mono Channel: </source>
         <translation>Kanał mono: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Niestety, nie można otworzyć strony domowej %1.</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Deseja escolher um arquivo?</translation>
         <source>Mono Channel: </source>
         <translation>Canal mono: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Desculpe, não é possível abrir a página inicial %1.</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Ali želite izbrati datoteko?</translation>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Žal domače strani %1 ni mogoče odpreti.</translation>
+    </message>
 </context>
 </TS>

@@ -1627,5 +1627,9 @@ Bir dosya seçmek ister misiniz?</translation>
         <source>Mono Channel: </source>
         <translation>Mono kanal: </translation>
     </message>
+    <message>
+        <source>Sorry, but the home page %1 cannot be opened.</source>
+        <translation>Üzgünüz, %1 ana sayfası açılamıyor.</translation>
+    </message>
 </context>
 </TS>

@@ -97,3 +97,42 @@ TEST(OpenQuestions, FlacWithErrorsIsNotTested) {
   EXPECT_EQ(t.s->m_testRunning, 0);
   DeleteWorkFile(g_workPath);
 }
+
+// A file whose work file holds no sound data gets one question from either test, and No
+// lets it go untouched; a file the gain engine cannot analyse, or whose work file went
+// after the open, is said so and let go too.
+TEST(OpenQuestions, TestOfAFileWithoutSoundLetsItGo) {
+  struct Case {
+    const char* fixture;
+    const char* name;
+    int cut;  // bytes kept of the fixture; 0: the work file is removed after the open
+    int mode;
+    const char* said;
+  };
+  const Case cases[] = {{"ogg_2.ogg", "Prøve, \"cut\".ogg", 5000, 0, "Sorry, but the test is stopped as the file "},
+                        {"ogg_2.ogg", "Prøve, \"cut\".ogg", 5000, 1, "Sorry, but the test is stopped as the file "},
+                        {"sine_16_stereo.wav", "🤔 no data.mp3", 1 << 30, 1, "Sorry, but the test of the file "},
+                        {"flac_16_2.flac", "שלום.flac", 0, 1, "Sorry, but the file "}};
+  for (const Case& c : cases) {
+    TestSession t;
+    const QString src = t.Path(c.name);
+    const QByteArray whole = testing_support::ReadFile(Fixture(c.fixture));
+    ASSERT_TRUE(testing_support::WriteFile(src, c.cut ? whole.left(c.cut) : whole));
+    const QByteArray source = testing_support::ReadFile(src);
+    if (OpenAndWait(t, src) != 1) ADD_FAILURE() << c.name << ": " << t.prompt.texts().join('|').toStdString();
+    if (!c.cut) QFile::remove(g_workPath);
+    t.prompt.clear();
+    t.prompt.answers.push_back({false, false});
+    t.s->m_testMode = c.mode;
+    bool fromLog = false;
+    const QString work = g_workPath;
+    EXPECT_EQ(RunTestOnOpenFile(*t.s, fromLog), 0);
+    EXPECT_FALSE(QFile::exists(work)) << c.name << c.mode;
+    ASSERT_EQ(t.prompt.requests.size(), 1u) << c.name << c.mode << t.prompt.texts().join('|').toStdString();
+    EXPECT_TRUE(t.prompt.requests[0].text.startsWith(c.said)) << t.prompt.requests[0].text.toStdString();
+    EXPECT_TRUE(g_workPath.isEmpty()) << c.name << c.mode;
+    EXPECT_TRUE(t.s->m_title.isEmpty());
+    EXPECT_EQ(t.s->m_testRunning, 0);
+    EXPECT_EQ(testing_support::ReadFile(src), source);
+  }
+}

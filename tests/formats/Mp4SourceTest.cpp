@@ -183,12 +183,15 @@ TEST(Mp4Source, PropertiesOfAacFilesAndTheRefusals) {
                                           "amount of channels more than 2."});
   t.prompt.clear();
 
-  // MPEG-2 AAC Main is refused silently; MPEG-2 LC opens.
+  // MPEG-2 AAC Main is refused as unsupported; MPEG-2 LC opens.
   auto withObjectType = [](int type) {
     return [type](QByteArray& b) { b[b.indexOf("esds") + 21] = char(type); };
   };
   ASSERT_TRUE(WriteFile(t.Path("main.m4a"), Patched("aac_stereo.m4a", withObjectType(102))));
   EXPECT_EQ(OpenFileHeadless(s, t.Path("main.m4a")), 0);
+  EXPECT_EQ(t.prompt.texts(), QStringList{"Sorry, but the file " + t.Path("main.m4a") +
+                                          " has unsupported by the program a format of sound data."});
+  t.prompt.clear();
   ASSERT_TRUE(WriteFile(t.Path("lc2.m4a"), Patched("aac_stereo.m4a", withObjectType(103))));
   EXPECT_EQ(OpenFileHeadless(s, t.Path("lc2.m4a")), 1);
   EXPECT_EQ(s.m_propertyLines[3], "  Audio Format      MPEG-2 AAC");
@@ -202,7 +205,7 @@ TEST(Mp4Source, PropertiesOfAacFilesAndTheRefusals) {
   EXPECT_EQ(t.prompt.texts(), QStringList{"Sorry, the file opening was stopped because the file has errors."});
 }
 
-TEST(Mp4Source, VideoFirstIsRefusedSilently) {
+TEST(Mp4Source, VideoFirstIsRefusedAsUnsupported) {
   TestSession t;
   const QString video = t.Path("clip.mp4");
   ASSERT_EQ(RunShell("ffmpeg -nostdin -loglevel error -f lavfi -i testsrc=size=64x48:rate=5:duration=1 -f lavfi -i "
@@ -210,7 +213,8 @@ TEST(Mp4Source, VideoFirstIsRefusedSilently) {
                      Quote(video)),
             0);
   EXPECT_EQ(OpenFileHeadless(*t.s, video), 0);
-  EXPECT_TRUE(t.prompt.requests.empty());
+  EXPECT_EQ(t.prompt.texts(),
+            QStringList{"Sorry, but the file " + video + " has unsupported by the program a format of sound data."});
 }
 
 TEST(Mp4Source, AdifStreamTakesItsChannelsFromTheFirstFrame) {
@@ -270,7 +274,8 @@ TEST(Mp4Source, AdifStreamTakesItsChannelsFromTheFirstFrame) {
   ASSERT_TRUE(WriteFile(t.Path("variable.aac"), adif(true)));
   t.prompt.clear();
   EXPECT_EQ(OpenFileHeadless(*t.s, t.Path("variable.aac")), 0);
-  EXPECT_TRUE(t.prompt.requests.empty());
+  EXPECT_EQ(t.prompt.texts(), QStringList{"Sorry, but the file " + t.Path("variable.aac") +
+                                          " has unsupported by the program a format of sound data."});
 }
 
 TEST(Mp4Source, TwentyBitAlacLeavesAnEmptyWorkFile) {

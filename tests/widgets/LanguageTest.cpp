@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QStyle>
+#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 #include <QTimer>
@@ -135,8 +136,9 @@ TEST_F(LanguageTest, ThemesApplyAtOnce) {
   EXPECT_EQ(QApplication::palette().color(QPalette::Window), desktop);
 }
 
-// F1 and the tool bar's Help open the installed help page in the browser.
-TEST_F(LanguageTest, HelpOpensThePage) {
+// F1 and the tool bar's Help open the installed help page in the browser, in each of the
+// seventeen languages the page written in that language.
+TEST_F(LanguageTest, HelpOpensThePageOfTheLanguage) {
   UrlCatcher catcher;
   QDesktopServices::setUrlHandler("file", &catcher, "open");
   CBrenlowv10Dlg dlg;
@@ -145,10 +147,24 @@ TEST_F(LanguageTest, HelpOpensThePage) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dlg));
   QTest::keyClick(&dlg, Qt::Key_F1);
   dlg.action(756)->trigger();
-  QDesktopServices::unsetUrlHandler("file");
   ASSERT_EQ(catcher.urls.size(), 2);
-  EXPECT_TRUE(catcher.urls[0].toLocalFile().endsWith("/help/index.html")) << catcher.urls[0].toString().toStdString();
-  EXPECT_TRUE(QFileInfo::exists(catcher.urls[0].toLocalFile()));
+  EXPECT_EQ(catcher.urls[0], catcher.urls[1]);
+  catcher.urls.clear();
+  for (const LanguageInfo& lang : Languages()) {
+    const QString code = QString::fromLatin1(lang.code);
+    LanguageLoader loader;
+    loader.Load(code);
+    dlg.action(kCmdHelp)->trigger();
+    ASSERT_FALSE(catcher.urls.isEmpty()) << lang.code;
+    const QString page = catcher.urls.takeLast().toLocalFile();
+    EXPECT_TRUE(page.endsWith(code == "en" ? "/help/index.html" : "/help/" + code + "/index.html")) << page.toStdString();
+    QFile f(page);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly)) << page.toStdString();
+    const QString html = QString::fromUtf8(f.readAll());
+    const QString tag = QString::fromLatin1(lang.qtLocale).replace('_', '-');
+    EXPECT_TRUE(html.contains("<html lang=\"" + tag + "\">")) << lang.code << " wants lang " << tag.toStdString();
+  }
+  QDesktopServices::unsetUrlHandler("file");
 }
 
 TEST_F(LanguageTest, AboutBoxNamesProgramAndLibraries) {

@@ -20,6 +20,7 @@
 #include "app/Settings.h"
 #include "app/widgets/DataBaseDialog.h"
 #include "app/widgets/MainDialog.h"
+#include "app/widgets/ShellMenus.h"
 #include "controls/LevelBar.h"
 #include "support/TestSupport.h"
 #include "widgets/WidgetTestSupport.h"
@@ -62,6 +63,25 @@ TEST_F(MainDialogTest, TitleMenusAndToolBar) {
   EXPECT_EQ(dlg.action(309)->toolTip(), "Batch Processor (Ctrl+P)");
   EXPECT_EQ(dlg.action(756)->toolTip(), "Help (F1)");
   EXPECT_EQ(dlg.action(304)->toolTip(), "Exit (Ctrl+X)");
+}
+
+// Every command of the menus and the tool bar reaches a handler: an item left unwired
+// would show, enable and do nothing.
+TEST_F(MainDialogTest, EveryCommandIsWired) {
+  CBrenlowv10Dlg dlg;
+  // The menus' own connections do not count: only the window's, its shell menus' and the
+  // Help item's (which the tool bar's Help triggers).
+  QObject* const handlers[] = {&dlg, dlg.findChild<ShellMenus*>(), dlg.action(kCmdHelp)};
+  auto wired = [&](QAction* a) {
+    bool any = false;
+    for (QObject* h : handlers) any = QObject::disconnect(a, &QAction::triggered, h, nullptr) || any;
+    return any;
+  };
+  for (int id : {kCmdOpen, kCmdClose, kCmdExit, kCmdTest, kCmdBatch, kCmdPlayPause, kCmdStop, kCmdVolumeUp,
+                 kCmdVolumeDown, kCmdMute, kCmdPrevious, kCmdNext, kCmdShuffle, kCmdRepeat, kCmdRepeatAll,
+                 kCmdAlwaysOnTop, kCmdBeep, kCmdShowPercent, kCmdShowDb, kCmdUseDatabase, kCmdClearDatabase,
+                 kCmdDatabase, kCmdHelp, kCmdHomepage, kCmdAbout, kToolOpen, kToolBatch, kToolHelp, kToolExit})
+    EXPECT_TRUE(wired(dlg.action(id))) << id;
 }
 
 TEST_F(MainDialogTest, AreasFromTopToBottom) {
@@ -114,6 +134,18 @@ TEST_F(MainDialogTest, TimerOneAppliesTheEnablingRules) {
   EXPECT_TRUE(dlg.action(757)->isEnabled());
   EXPECT_TRUE(dlg.action(309)->isEnabled());
   EXPECT_EQ(dlg.session().m_statusText, "");
+}
+
+// A screen reader toggles a radio instead of clicking it; the test mode follows either way.
+TEST_F(MainDialogTest, RadiosFollowAssistiveTechnology) {
+  CBrenlowv10Dlg dlg;
+  dlg.show();
+  for (int mode : {1, 0}) {
+    QAccessibleInterface* radio = QAccessible::queryAccessibleInterface(dlg.control(mode ? kIdAverageRadio : kIdPeakRadio));
+    radio->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(dlg.session().m_testMode, mode);
+    EXPECT_EQ(dlg.label(kIdLeftMax)->isVisibleTo(&dlg), mode == 1);
+  }
 }
 
 TEST_F(MainDialogTest, EscapeKeepsTheWindowOpen) {

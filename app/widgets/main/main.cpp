@@ -2,11 +2,16 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QSocketNotifier>
+#include <QTimer>
 extern "C" {
 #include <libavutil/log.h>
 }
 #include <clocale>
+#include <csignal>
 #include <cstdio>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include "lazy/LazyLibraries.h"
 #include "app/Languages.h"
@@ -18,6 +23,39 @@ extern "C" {
 #include "app/widgets/MainDialog.h"
 #include "app/widgets/MainWindowPlayer.h"
 #include "app/widgets/ShellMenus.h"
+
+namespace {
+
+int g_signalPipe[2] = {-1, -1};
+
+void OnEndSignal(int) {
+  const char c = 1;
+  [[maybe_unused]] const ssize_t n = ::write(g_signalPipe[1], &c, 1);
+}
+
+// SIGTERM, SIGINT and SIGHUP (a logout, Ctrl+C in the terminal, kill) end the program as Exit
+// does, so the work file beside the source goes with it. A close that has to wait (a worker
+// still filling the work file) is asked again until it is taken.
+void EndOnSignals(QWidget* window) {
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, g_signalPipe) != 0) return;
+  auto* notifier = new QSocketNotifier(g_signalPipe[0], QSocketNotifier::Read, window);
+  QObject::connect(notifier, &QSocketNotifier::activated, window, [window, notifier] {
+    char c;
+    [[maybe_unused]] const ssize_t n = ::read(g_signalPipe[0], &c, 1);
+    notifier->setEnabled(false);
+    auto* retry = new QTimer(window);
+    QObject::connect(retry, &QTimer::timeout, window, [window] { window->close(); });
+    retry->start(100);
+    window->close();
+  });
+  struct sigaction sa {};
+  sa.sa_handler = OnEndSignal;
+  sigemptyset(&sa.sa_mask);
+  sa.sa_flags = SA_RESTART;
+  for (int sig : {SIGTERM, SIGINT, SIGHUP}) ::sigaction(sig, &sa, nullptr);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -58,5 +96,6 @@ int main(int argc, char** argv) {
   MainWindowPlayer player(&dlg);
   dlg.resize(760, 600);
   dlg.show();
+  EndOnSignals(&dlg);
   return app.exec();
 }
