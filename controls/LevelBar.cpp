@@ -157,7 +157,9 @@ void LevelBar::paintEvent(QPaintEvent*) {
     p.setFont(font());
     const QFontMetrics fm(font());
     const QColor onBar = Qt::white;
-    const QColor beside = palette().color(QPalette::WindowText);
+    // Beside the fill the text stands on the bar's own background, not the window's, so it
+    // takes the contrast of that colour (a dark theme's light text would vanish on it).
+    const QColor beside = FromColorRef(m_bk).lightness() > 128 ? QColor(Qt::black) : QColor(Qt::white);
     if (m_tied) {
       // Inside the fill at its end, and only where it fits.
       if (fm.height() <= filled) {

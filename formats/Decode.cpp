@@ -16,8 +16,9 @@ constexpr uint16_t kTagPcm = 1;
 constexpr uint16_t kTagFloat = 3;
 constexpr uint16_t kTagMpegLayer3 = 0x55;
 constexpr uint64_t kMaxFmtBlock = 1u << 20;
-// Frames of a PCM source handed to the sink at a time.
-constexpr uint64_t kPcmChunkBytes = 1 << 18;
+// Frames of a PCM source handed to the sink at a time: the mapped file lends them, so a
+// chunk costs no copy and may be large.
+constexpr uint64_t kPcmChunkBytes = 4 << 20;
 
 uint32_t Le32(const uint8_t* p) {
   return uint32_t(p[0]) | uint32_t(p[1]) << 8 | uint32_t(p[2]) << 16 | uint32_t(p[3]) << 24;
@@ -52,9 +53,9 @@ bool DecodeJob::Begin(PcmSink& sink, const PcmFormat& f, const QString& failure)
   return true;
 }
 
-bool DecodeJob::Write(PcmSink& sink, const void* data, size_t n, const QString& failure) {
+bool DecodeJob::Write(PcmSink& sink, const void* data, size_t n, const QString& failure, bool lent) {
   if (n == 0) return true;
-  if (!sink.Write(data, n)) {
+  if (!(lent ? sink.WriteLent(data, n) : sink.Write(data, n))) {
     const QString text = failure.isEmpty() ? sink.FailureText() : failure;
     if (!text.isEmpty()) Report(text, PromptIcon::Error);
     status = DecodeStatus::SinkFailed;
@@ -127,7 +128,8 @@ DecodeStatus DecodeWavPcm(DecodeJob& job, PcmSink& sink) {
   const uint64_t chunk = std::max<uint64_t>(kPcmChunkBytes / frame, 1) * frame;
   for (uint64_t done = 0; done < avail;) {
     const uint64_t n = std::min(chunk, avail - done);
-    if (!job.Write(sink, p + done, size_t(n))) break;
+    PrefaultView(p + done, n);
+    if (!job.Write(sink, p + done, size_t(n), {}, true)) break;
     done += n;
     if (!job.Checkpoint(double(done) / double(avail))) break;
   }

@@ -55,8 +55,9 @@ struct DecodeJob {
   bool Checkpoint(double fraction);
   // Begins the sink with `f`; a refusal reports `failure` (if any) and sets SinkFailed.
   bool Begin(PcmSink& sink, const PcmFormat& f, const QString& failure = {});
-  // Writes to the sink and counts; a failure reports `failure` and sets SinkFailed.
-  bool Write(PcmSink& sink, const void* data, size_t n, const QString& failure = {});
+  // Writes to the sink and counts; a failure reports `failure` and sets SinkFailed. `lent`:
+  // the bytes stay where they are until the sink's End (PcmSink::WriteLent).
+  bool Write(PcmSink& sink, const void* data, size_t n, const QString& failure = {}, bool lent = false);
   bool Began() const { return format.channels > 0; }
 };
 

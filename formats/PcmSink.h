@@ -34,6 +34,9 @@ class PcmSink {
   // Interleaved samples, any number of bytes (frames may be cut between two calls). False
   // on a failed write; the decoder then stops.
   virtual bool Write(const void* data, size_t bytes) = 0;
+  // The same for bytes that stay readable where they are until End has returned (a mapped
+  // source): a sink may read them there later instead of copying them now.
+  virtual bool WriteLent(const void* data, size_t bytes) { return Write(data, bytes); }
   // The end of the stream, also after a decoding error (what was written stands). False
   // when the sink could not settle (a work file whose sizes could not be patched).
   virtual bool End(SizeRule rule) = 0;

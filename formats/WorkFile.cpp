@@ -484,6 +484,21 @@ const uint8_t* MappedFile::Map(uint64_t offset, uint64_t length) {
   return m_view;
 }
 
+// A kernel without MADV_POPULATE_READ (before 5.14) is asked once.
+void PrefaultView(const uint8_t* p, uint64_t bytes) {
+#ifdef MADV_POPULATE_READ
+  static std::atomic<bool> unsupported{false};
+  if (bytes == 0 || unsupported.load(std::memory_order_relaxed)) return;
+  static const uintptr_t page = uintptr_t(::sysconf(_SC_PAGESIZE));
+  const uintptr_t start = reinterpret_cast<uintptr_t>(p) / page * page;
+  const uintptr_t end = reinterpret_cast<uintptr_t>(p) + bytes;
+  if (::madvise(reinterpret_cast<void*>(start), end - start, MADV_POPULATE_READ) != 0 && errno == EINVAL)
+    unsupported = true;
+#else
+  (void)p, (void)bytes;
+#endif
+}
+
 void MappedFile::Unmap() {
   if (m_view) ::munmap(const_cast<uint8_t*>(m_view), size_t(m_viewSize));
   m_view = nullptr;

@@ -127,6 +127,10 @@ bool FindDataChunk(const uint8_t* view, uint64_t viewSize, uint64_t limit, uint3
                    uint32_t& dataSize);
 
 // A read-only memory map of a file, or of a window of it.
+// Maps the pages of [p, p + bytes) of a view in one call instead of taking a fault every
+// few pages as they are read.
+void PrefaultView(const uint8_t* p, uint64_t bytes);
+
 class MappedFile {
  public:
   MappedFile() = default;

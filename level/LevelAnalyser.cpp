@@ -20,6 +20,15 @@ namespace {
 // decoder runs ahead by at most this much.
 constexpr size_t kBlockBytes = 256 * 1024;
 constexpr size_t kQueuedBlocks = 4;
+
+// A block for the analysis thread: bytes of its own, or bytes the decoder lends until End.
+struct Block {
+  std::vector<uint8_t> owned;
+  const uint8_t* lent = nullptr;
+  size_t lentBytes = 0;
+  const uint8_t* Data() const { return lent ? lent : owned.data(); }
+  size_t Bytes() const { return lent ? lentBytes : owned.size(); }
+};
 }  // namespace
 
 struct LevelAnalyser::State {
@@ -33,6 +42,9 @@ struct LevelAnalyser::State {
   bool peakBlock = false;
   SampleBlock block;
   std::unique_ptr<PeakExtremes> extremes;
+  // The part of lent bytes that the decoder's thread reads itself (peak test only).
+  std::unique_ptr<PeakExtremes> callerExtremes;
+  uint64_t callerFrames = 0;
   // Average kernel.
   bool gainOk = false;
   SampleKind kind = SampleKind::S16;
@@ -44,7 +56,7 @@ struct LevelAnalyser::State {
   std::vector<uint8_t> fill;
   std::mutex lock;
   std::condition_variable changed;
-  std::deque<std::vector<uint8_t>> queue;
+  std::deque<Block> queue;
   std::vector<std::vector<uint8_t>> spare;
   bool closing = false;
   std::thread worker;
@@ -60,14 +72,16 @@ struct LevelAnalyser::State {
     for (;;) {
       changed.wait(g, [this] { return !queue.empty() || closing; });
       if (queue.empty()) return;
-      std::vector<uint8_t> b = std::move(queue.front());
+      Block b = std::move(queue.front());
       queue.pop_front();
       changed.notify_all();
       g.unlock();
-      Analyse(b.data(), b.size() / frameBytes);
-      b.clear();
+      Analyse(b.Data(), b.Bytes() / frameBytes);
       g.lock();
-      spare.push_back(std::move(b));
+      if (!b.lent) {
+        b.owned.clear();
+        spare.push_back(std::move(b.owned));
+      }
     }
   }
 
@@ -93,12 +107,17 @@ struct LevelAnalyser::State {
     next.reserve(kBlockBytes + frameBytes);
     next.insert(next.end(), fill.begin() + std::ptrdiff_t(whole), fill.end());
     fill.resize(whole);
-    {
-      std::lock_guard<std::mutex> g(lock);
-      queue.push_back(std::move(fill));
-      changed.notify_all();
-    }
+    Block b;
+    b.owned = std::move(fill);
+    Queue(std::move(b));
     fill = std::move(next);
+  }
+
+  void Queue(Block&& b) {
+    std::unique_lock<std::mutex> g(lock);
+    changed.wait(g, [this] { return queue.size() < kQueuedBlocks; });
+    queue.push_back(std::move(b));
+    changed.notify_all();
   }
 
   void Stop() {
@@ -160,11 +179,40 @@ bool LevelAnalyser::Write(const void* data, size_t bytes) {
   return true;
 }
 
+bool LevelAnalyser::WriteLent(const void* data, size_t bytes) {
+  if (!m->begun || m->ended) return false;
+  // Lent bytes go to the analysis thread as they are, when they are whole frames in order.
+  if (!m->threaded || !m->fill.empty() || bytes % m->frameBytes != 0) return Write(data, bytes);
+  const uint8_t* p = static_cast<const uint8_t*>(data);
+  const size_t frames = bytes / m->frameBytes;
+  // The peak test alone: the order of the frames does not matter, and this thread reads
+  // the first half itself while the analysis thread reads the second.
+  size_t mine = 0;
+  if (m->extremes && !m->gainOk) {
+    mine = frames / 2;
+    if (!m->callerExtremes) m->callerExtremes = std::make_unique<PeakExtremes>(m->block);
+  }
+  if (frames > mine) {
+    Block b;
+    b.lent = p + mine * m->frameBytes;
+    b.lentBytes = (frames - mine) * m->frameBytes;
+    m->Queue(std::move(b));
+  }
+  if (mine > 0) {
+    m->callerExtremes->Feed(p, mine);
+    m->callerFrames += mine;
+  }
+  return true;
+}
+
 bool LevelAnalyser::End(SizeRule) {
   if (!m->begun || m->ended) return m->begun;
   m->HandOver();
   m->Stop();
   m->ended = true;
+  m->frames += m->callerFrames;
+  m->callerFrames = 0;
+  if (m->callerExtremes) m->extremes->Merge(*m->callerExtremes);
   if (m->gainOk) m->gain.Finish();
   return true;
 }

@@ -26,6 +26,7 @@ class LevelAnalyser : public PcmSink {
 
   bool Begin(const PcmFormat& format) override;
   bool Write(const void* data, size_t bytes) override;
+  bool WriteLent(const void* data, size_t bytes) override;
   bool End(SizeRule rule) override;
 
   // After End. Whole frames analysed (a cut last frame is left out, as the readers of a

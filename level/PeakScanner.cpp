@@ -247,21 +247,6 @@ const uint8_t* MapAt(MappedFile& f, uint64_t offset, uint64_t& length) {
   return v + (offset - start);
 }
 
-// Maps the pages of the next chunk in one call instead of taking a fault every few pages;
-// a kernel without MADV_POPULATE_READ (before 5.14) is asked once.
-void Prefault(const uint8_t* p, uint64_t bytes) {
-#ifdef MADV_POPULATE_READ
-  static std::atomic<bool> unsupported{false};
-  if (bytes == 0 || unsupported.load(std::memory_order_relaxed)) return;
-  static const uintptr_t page = uintptr_t(::sysconf(_SC_PAGESIZE));
-  const uintptr_t start = reinterpret_cast<uintptr_t>(p) / page * page;
-  const uintptr_t end = reinterpret_cast<uintptr_t>(p) + bytes;
-  if (::madvise(reinterpret_cast<void*>(start), end - start, MADV_POPULATE_READ) != 0 && errno == EINVAL)
-    unsupported = true;
-#else
-  (void)p, (void)bytes;
-#endif
-}
 
 // Views of this size or more are read by two threads: the second half by a helper while
 // this thread reads the first half, polls and moves the progress.
@@ -301,7 +286,7 @@ class HalfScan {
   void Run(const uint8_t* p, uint64_t frames) {
     while (frames > 0 && !m_stop && m_control.Checkpoint(-1)) {
       const uint64_t n = std::min<uint64_t>(frames, kPumpFrames);
-      Prefault(p, n * m_frameBytes);
+      PrefaultView(p, n * m_frameBytes);
       m_x.Feed(p, size_t(n));
       p += n * m_frameBytes;
       frames -= n;
@@ -512,7 +497,7 @@ int ScanPeakLevels(Session& s) {
       if (!scan.KeepGoing(done())) return stop(helper.get());
       uint64_t n = std::min(mine, kPumpFrames);
       if (interval > 0 && !helper) n = std::min(n, interval - counted);
-      Prefault(p, n * block.frameBytes);
+      PrefaultView(p, n * block.frameBytes);
       x.Feed(p, size_t(n));
       const uint64_t bytes = n * block.frameBytes;
       g_sampleBytesRead += bytes;

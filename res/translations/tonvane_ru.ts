@@ -1433,7 +1433,7 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source>Duration</source>
-        <translation>Длительность</translation>
+        <translation>Время</translation>
     </message>
     <message>
         <source>Sample Rate</source>

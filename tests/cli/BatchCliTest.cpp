@@ -11,18 +11,13 @@
 #include "support/TestSupport.h"
 
 using testing_support::CliPath;
+using testing_support::Quote;
 using testing_support::Fixture;
 using testing_support::ReadFile;
 using testing_support::RunShell;
 using testing_support::WriteFile;
 
 namespace {
-
-QString Quote(const QString& s) {
-  QString q = s;
-  q.replace('\'', "'\\''");
-  return '\'' + q + '\'';
-}
 
 class BatchCli : public ::testing::Test {
  protected:

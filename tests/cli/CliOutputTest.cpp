@@ -49,10 +49,8 @@ TEST_P(CliOutput, PrintsItsFormAndStatus) {
   const QString from = QFile::exists(Fixture(c.source)) ? Fixture(c.source) : ApeData(c.source);
   const QString path = t.Path(c.name);
   ASSERT_TRUE(QFile::copy(from, path)) << from.toStdString();
-  QString quoted = path;
-  quoted.replace('\'', "'\\''");
   QByteArray out;
-  EXPECT_EQ(RunShell("'" + CliPath() + "' --no-log " + c.args + " '" + quoted + "'", &out), c.status);
+  EXPECT_EQ(RunShell(Quote(CliPath()) + " --no-log " + c.args + " " + Quote(path), &out), c.status);
   for (const char* piece : c.want) EXPECT_TRUE(out.contains(piece)) << piece << "\n" << out.toStdString();
   QStringList left = QDir(t.dir.path()).entryList(QDir::Files);
   left.removeAll("TestLog.csv");

@@ -13,16 +13,11 @@
 #include "support/TestSupport.h"
 
 using testing_support::CliPath;
+using testing_support::Quote;
 using testing_support::ReadFile;
 using testing_support::RunShell;
 
 namespace {
-
-QString Quote(const QString& s) {
-  QString q = s;
-  q.replace("'", "'\\''");
-  return "'" + q + "'";
-}
 
 struct CliRun {
   int status = -1;

@@ -22,8 +22,6 @@ uint32_t Le32(const QByteArray& b, int at) {
 }
 uint16_t Le16(const QByteArray& b, int at) { return uint16_t(uint8_t(b[at]) | uint8_t(b[at + 1]) << 8); }
 
-QString Quote(const QString& path) { return "'" + QString(path).replace("'", "'\\''") + "'"; }
-
 // Copies a fixture into the session's folder, so the work file lands there.
 QString Stage(TestSession& t, const QString& fixture, const QString& name) {
   const QString to = t.Path(name);

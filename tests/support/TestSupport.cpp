@@ -58,6 +58,8 @@ QByteArray ReadFile(const QString& path) {
   return f.readAll();
 }
 
+QString Quote(const QString& s) { return "'" + QString(s).replace('\'', "'\\''") + "'"; }
+
 int RunShell(const QString& command, QByteArray* out) {
   QProcess p;
   p.start("/bin/sh", {"-c", command});

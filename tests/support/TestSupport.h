@@ -32,6 +32,9 @@ struct TestSession {
 bool WriteFile(const QString& path, const QByteArray& bytes);
 QByteArray ReadFile(const QString& path);
 
+// A path or argument in single quotes for /bin/sh.
+QString Quote(const QString& s);
+
 // Runs a command line through /bin/sh; returns its exit status and fills `out` with stdout.
 int RunShell(const QString& command, QByteArray* out = nullptr);
 
