@@ -84,15 +84,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>  Test is stopped</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sorry, the test is stopped because the file was not opened for it.
-Do You want to open a dialog of selection a file?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>  Test of the volume level is fulfilling</source>
         <translation type="unfinished"></translation>
     </message>
@@ -110,6 +101,15 @@ Do You want to open a dialog of selection a file?</source>
     </message>
     <message>
         <source> was not possible to fulfill.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  Test is stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorry, the test is stopped because the file was not opened for it.
+Do You want to open a dialog of selection a file?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
