@@ -1,8 +1,6 @@
 #include "player/PreviewPlayer.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <atomic>
 #include <chrono>
 #include <thread>
@@ -37,14 +35,8 @@ bool PlaysSource(const BatchFileInfo& info) {
 
 }  // namespace
 
-QString PreviewWorkPathFor(const QString& source) {
-  const QString beside = WorkPathFor(source, 3);
-  const QString folder = QFileInfo(beside).absolutePath();
-  if (DriveTypeOf(folder) != kDriveCdRom && QFileInfo(folder).isWritable()) return beside;
-  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/tonvane/work";
-  QDir().mkpath(cache);
-  return cache + '/' + QFileInfo(beside).fileName();
-}
+// A read-only or optical mount fails the write check too, so such a preview goes to the cache.
+QString PreviewWorkPathFor(const QString& source) { return WritableWorkPath(WorkPathFor(source, 3)); }
 
 PreviewPlayer::PreviewPlayer(Session& s, IPlayerTimers& timers, IPreviewList& list)
     : m_s(s), m_timers(timers), m_list(list) {
